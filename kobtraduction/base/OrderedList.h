@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <kobtraduction/base/Failure.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+namespace kob {
+
+/// The container of the model's public lists: items are ordered and numbered from 1. A position outside 1..count
+/// fails with FailureKind::InvalidIndex and changes nothing. A list is an object of its own, held by reference,
+/// because a host may keep one and change it behind its owner's back. Used on one thread.
+template <class T>
+class OrderedList {
+ public:
+  using const_iterator = typename std::vector<T>::const_iterator;
+
+  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(items_.size()); }
+
+  /// The item at a position; the reference lives until the list is changed.
+  const T& Item(std::int32_t position) const { return items_[index(position)]; }
+
+  void Add(T item) { items_.push_back(std::move(item)); }
+
+  /// Inserts in front of the item at `before`.
+  void Add(T item, std::int32_t before) {
+    items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(index(before)), std::move(item));
+  }
+
+  void Remove(std::int32_t position) {
+    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index(position)));
+  }
+
+  const_iterator begin() const noexcept { return items_.begin(); }
+  const_iterator end() const noexcept { return items_.end(); }
+
+ private:
+  std::size_t index(std::int32_t position) const {
+    if (position < 1 || static_cast<std::size_t>(position) > items_.size()) {
+      throw Failure(FailureKind::InvalidIndex);
+    }
+    return static_cast<std::size_t>(position) - 1;
+  }
+
+  std::vector<T> items_;
+};
+
+}  // namespace kob

@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <kobtraduction/base/Export.h>
+#include <kobtraduction/base/OrderedList.h>
+#include <kobtraduction/base/Text.h>
+#include <kobtraduction/model/CellList.h>
+#include <kobtraduction/model/Factor.h>
+#include <kobtraduction/model/KOBTraductionObj.h>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace kob {
+
+class HostObject;
+
+using EntryList = OrderedList<std::shared_ptr<KOBTraductionObj>>;
+using FactorList = OrderedList<Factor>;
+
+/// A node of the model's tree. A cell is a node with children or a leaf, and, independently of that, holds no
+/// translation, one message, or the named translations of a host control with a left and a width factor per
+/// language.
+///
+///   TypeCell    1 node (ColCell)   2 leaf (no ColCell)
+///   TypeFeuille 0 none             1 message (Traduction)   2 control (ColTraduction, ColLeft, ColWidth)
+///
+/// The lists are shared references that may be none; a host may keep one, change it or assign another. A cell
+/// owns what is below it; parentcell is a back reference and reads as none once the parent is gone. A cell
+/// belongs to the thread that made it. Failures: see kobtraduction/base/Failure.h; a list that is none is
+/// ObjectNotSet.
+class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCellTraduction> {
+  struct Key {};
+
+ public:
+  /// A leaf holding one message with one empty text per language.
+  static std::shared_ptr<KOBCellTraduction> create();
+  /// Called by create() only.
+  explicit KOBCellTraduction(Key);
+  KOBCellTraduction(const KOBCellTraduction&) = delete;
+  KOBCellTraduction& operator=(const KOBCellTraduction&) = delete;
+  /// Releases what is below without recursion, however deep it is.
+  ~KOBCellTraduction();
+
+  /// The name by which the parent finds the cell, case ignored.
+  const Text& nom() const noexcept { return nom_; }
+  void setnom(TextView name);
+  /// A display name; AddNoeuds and AddMessage set it to nom when none is given.
+  const Text& Alias() const noexcept { return alias_; }
+  void setAlias(TextView alias) { alias_ = alias; }
+  std::shared_ptr<KOBCellTraduction> parentcell() const noexcept { return parentCell_.lock(); }
+  void setparentcell(const std::shared_ptr<KOBCellTraduction>& parent) noexcept { parentCell_ = parent; }
+
+  const std::shared_ptr<CellList>& ColCell() const noexcept { return colCell_; }
+  void setColCell(std::shared_ptr<CellList> children) noexcept { colCell_ = std::move(children); }
+  const std::shared_ptr<KOBTraductionObj>& Traduction() const noexcept { return traduction_; }
+  void setTraduction(std::shared_ptr<KOBTraductionObj> entry) noexcept { traduction_ = std::move(entry); }
+  const std::shared_ptr<EntryList>& ColTraduction() const noexcept { return colTraduction_; }
+  void setColTraduction(std::shared_ptr<EntryList> entries) noexcept { colTraduction_ = std::move(entries); }
+  const std::shared_ptr<FactorList>& ColLeft() const noexcept { return colLeft_; }
+  void setColLeft(std::shared_ptr<FactorList> factors) noexcept { colLeft_ = std::move(factors); }
+  const std::shared_ptr<FactorList>& ColWidth() const noexcept { return colWidth_; }
+  void setColWidth(std::shared_ptr<FactorList> factors) noexcept { colWidth_ = std::move(factors); }
+
+  /// Whether the control can be positioned, not where: harvesting sets 1 (left greater than 0) or -1.
+  std::int32_t m_left() const noexcept { return left_; }
+  void setm_left(std::int32_t indicator) noexcept { left_ = indicator; }
+  std::int32_t m_width() const noexcept { return width_; }
+  void setm_width(std::int32_t indicator) noexcept { width_ = indicator; }
+
+  /// Assigning a new kind discards what belonged to the old one; the current kind, or a value that is no kind,
+  /// is ignored.
+  std::int32_t TypeFeuille() const noexcept { return typeFeuille_; }
+  void setTypeFeuille(std::int32_t kind);
+  std::int32_t TypeCell() const noexcept { return typeCell_; }
+  void setTypeCell(std::int32_t kind);
+
+  /// Replaces one language's factor; an Index outside 1..language count is ignored.
+  void ChangeWidth(double width, std::int32_t Index);
+  void ChangeLeft(double left, std::int32_t Index);
+
+  /// Adds a child node / a child message in the order of the upper-cased names; a leaf becomes a node first.
+  /// Returns none and writes -2 to `erreur` when a child of that name exists; `erreur` may be null and is not
+  /// written on success. An empty alias stands for the name.
+  std::shared_ptr<KOBCellTraduction> AddNoeuds(TextView NomNoeud, std::int32_t* erreur = nullptr,
+                                               TextView AliasNoeud = {});
+  std::shared_ptr<KOBCellTraduction> AddMessage(TextView NomMessage, TextView Message,
+                                                std::int32_t* erreur = nullptr, TextView AliasMessage = {});
+
+  // Internal: for the other classes and rooms of the component.
+
+  /// The cell holds translations that override a control's own in one context, or is the parent of such a cell.
+  bool Contexte() const noexcept { return contexte_; }
+  void setContexte(bool isContext) noexcept { contexte_ = isContext; }
+  /// The names from below the root down to this cell, joined by "\"; ancestors named "RACINE" are left out.
+  Text GetCellPath() const;
+  /// The first child of that name, case ignored; none for a leaf. A damaged list shows
+  /// "GetCell - KOBCellTraduction" and finds none.
+  std::shared_ptr<KOBCellTraduction> GetCell(TextView name) const;
+  /// GetCell without taking a reference; null when there is none.
+  KOBCellTraduction* findCell(TextView name) const;
+  void UpdateNbLangues();
+  void UpdateTestLangue(std::int32_t langue);
+  void ClearLangue(std::int32_t langue);
+
+  /// A leaf control cell without entries, and a node without translations.
+  static std::shared_ptr<KOBCellTraduction> createControl();
+  static std::shared_ptr<KOBCellTraduction> createNode();
+
+  // Internal, defined in engine/.
+
+  /// Records a control that the model does not hold yet, below this cell. Returns the cell that now holds the
+  /// texts, or none with a code in `erreur` (0 when all went well, else -3 to -5).
+  std::shared_ptr<KOBCellTraduction> AddCtrl(TextView nom, TextView tooltip, TextView caption,
+                                             std::int32_t left, std::int32_t width, std::int32_t& erreur,
+                                             TextView alias, TextView contexte);
+  /// Brings this control's cell up to date, asking before a recorded text is overwritten. Returns the cell that
+  /// now holds the texts, or none when nothing changed, the user declined or `erreur` tells why (-3, -6).
+  std::shared_ptr<KOBCellTraduction> UpdateCtrl(TextView tooltip, TextView caption, std::int32_t left,
+                                                std::int32_t width, std::int32_t& erreur, TextView alias,
+                                                TextView contexte);
+  /// Writes this cell's texts in `langue` and its factors onto a control. Never fails: what goes wrong in the
+  /// model is told by "Erreur Traduit Controle".
+  void TraduitCtrl(HostObject& Ctrl, std::int32_t langue, TextView contexte, bool keepToolTip,
+                   bool keepCaption) const;
+
+ private:
+  friend class CellList;
+
+  std::shared_ptr<KOBCellTraduction> addChild(std::shared_ptr<KOBCellTraduction> child, TextView name,
+                                              TextView alias);
+  /// The children, or ObjectNotSet.
+  CellList& children() const;
+
+  Text nom_;
+  Text alias_;
+  std::weak_ptr<KOBCellTraduction> parentCell_;
+  std::shared_ptr<CellList> colCell_;
+  std::shared_ptr<KOBTraductionObj> traduction_;
+  std::shared_ptr<EntryList> colTraduction_;
+  std::shared_ptr<FactorList> colLeft_;
+  std::shared_ptr<FactorList> colWidth_;
+  /// The lists that hold this cell, once for each time, to be told of a new name; nearly always one.
+  CellList* holder_ = nullptr;
+  std::unique_ptr<std::vector<CellList*>> moreHolders_;
+  std::int32_t left_ = 0;
+  std::int32_t width_ = 0;
+  std::int32_t typeCell_ = -1;
+  std::int32_t typeFeuille_ = -1;
+  bool contexte_ = false;
+};
+
+}  // namespace kob

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <kobtraduction/base/Export.h>
+#include <kobtraduction/base/Text.h>
+#include <kobtraduction/model/TextList.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace kob {
+
+/// One text in every language: the message of a message cell, or one named translation ("Caption", "ToolTip")
+/// of a control cell. Item i of ColTraduction is the text in language i, item 1 the reference; "" is "not
+/// translated". Languages are numbered 1..Global_Util::NbLangues() of the calling thread; the object belongs to
+/// the thread that made it.
+///
+/// Failures: reading an item that the list does not have is InvalidIndex, a list that is none is ObjectNotSet.
+class KOB_EXPORT KOBTraductionObj {
+ public:
+  /// One "" per language of the thread's language count, and no name.
+  KOBTraductionObj();
+
+  /// The texts; may be none when a host has assigned none.
+  const std::shared_ptr<TextList>& ColTraduction() const noexcept { return colTraduction_; }
+  void setColTraduction(std::shared_ptr<TextList> texts) noexcept { colTraduction_ = std::move(texts); }
+
+  /// The translation's name within a control cell; "" for the entry of a message cell.
+  const Text& nom() const noexcept { return nom_; }
+  void setnom(TextView name) { nom_ = name; }
+
+  /// Replaces the text of language `Index`; an Index outside 1..language count is ignored.
+  void ChangeTraduction(TextView Traduction, std::int32_t Index);
+
+  // Internal: for the other classes and rooms of the component.
+
+  /// Appends "" for each i from the present count up to the language count, inclusive: always one more than the
+  /// gap, so an entry already at the count still receives one.
+  void UpdateNbLangues();
+  /// Makes `langue` a test language: the reference text between "** " and " **".
+  void UpdateTestLangue(std::int32_t langue);
+  void ClearLangue(std::int32_t langue);
+  /// Copies this entry's texts into the gaps of `target` when both have the same reference text (case ignored).
+  void CompleteTraduction(KOBTraductionObj& target) const;
+  /// The same for a bare list whose reference text is passed separately.
+  void CompleteColTraduction(TextView reference, TextList& list) const;
+  /// Whether the reference text contains `search`, case ignored; "" is contained in every non-empty text.
+  bool ContainsText(TextView search) const;
+  /// Whether the text of language `index` + 1 is "": languages count from 0 here.
+  bool IsLangueEmpty(std::int16_t index) const;
+
+ private:
+  /// The list, or ObjectNotSet.
+  TextList& texts() const;
+
+  std::shared_ptr<TextList> colTraduction_;
+  Text nom_;
+};
+
+}  // namespace kob
