@@ -16,16 +16,17 @@ using Text = std::u16string;
 using TextView = std::u16string_view;
 
 namespace detail {
-/// Two-stage upper-case table (generated, see UpperCaseTable.py): page number per high byte, unit per low byte.
+/// Two-stage upper-case table (generated, see UpperCaseTable.py): page number per high byte; per low byte,
+/// how far the upper case lies from the unit, modulo 65536, so that all pages without upper case are one.
 KOB_EXPORT extern const std::uint8_t upperCasePage[256];
-KOB_EXPORT extern const char16_t upperCaseUnits[][256];
+KOB_EXPORT extern const char16_t upperCaseShift[][256];
 }  // namespace detail
 
-/// Unicode's simple upper-case mapping of one code unit, the same on every machine and in every locale. A unit
-/// whose full upper case is longer than one unit (the sharp s, U+1F80 and its like) stays, and so does a
+/// Unicode's simple upper-case mapping of one code unit, the same on every machine and in every locale. A
+/// unit whose full upper case is longer than one unit (the sharp s, U+1F80 and its like) stays, and so does a
 /// surrogate: upper-casing never changes a text's length.
 inline char16_t upperUnit(char16_t unit) noexcept {
-  return detail::upperCaseUnits[detail::upperCasePage[unit >> 8]][unit & 0xFF];
+  return static_cast<char16_t>(unit + detail::upperCaseShift[detail::upperCasePage[unit >> 8]][unit & 0xFF]);
 }
 
 /// The text with every unit upper-cased.
