@@ -10,9 +10,9 @@
 
 namespace kob {
 
-/// The container of the model's public lists: items are ordered and numbered from 1. A position outside 1..count
-/// fails with FailureKind::InvalidIndex and changes nothing. A list is an object of its own, held by reference,
-/// because a host may keep one and change it behind its owner's back. Used on one thread.
+/// The container of the model's public lists: items are ordered and numbered from 1. A position
+/// outside 1..count fails with FailureKind::InvalidIndex and changes nothing. A list is an object of its own,
+/// held by reference, because a host may keep one and change it behind its owner's back. Used on one thread.
 template <class T>
 class OrderedList {
  public:

@@ -9,7 +9,8 @@
 /// The per-thread globals of the component: each thread has values of its own, and nothing is locked.
 namespace kob::Global_Util {
 
-/// The language count of the thread, shared by every model, cell and entry made on it; 0 until something sets it.
+/// The language count of the thread, shared by every model, cell and entry made on it; 0 until something sets
+/// it.
 KOB_EXPORT std::int32_t NbLangues() noexcept;
 KOB_EXPORT void setNbLangues(std::int32_t count) noexcept;
 

@@ -11,8 +11,8 @@
 
 namespace kob {
 
-/// The properties that the engine asks of host objects: a closed set, so that a binding can switch on it or keep
-/// a dispatch identifier for each.
+/// The properties that the engine asks of host objects: a closed set, so that a binding can switch on it or
+/// keep a dispatch identifier for each.
 enum class Property : std::uint8_t {
   Name,
   Index,
@@ -45,10 +45,10 @@ KOB_EXPORT std::optional<Property> propertyByName(TextView name) noexcept;
 
 /// A form, control, toolbar button, button menu or collection of the host application, as the engine sees it.
 ///
-/// Asking an object for what it does not have is the ordinary case: every operation answers "failed" (an empty
-/// value, or false) at the cost of a branch, and throws nothing. Each operation here fails unless a binding
-/// overrides it. Called on the host's own thread only; an object whose live counterpart is gone answers "failed"
-/// to everything.
+/// Asking an object for what it does not have is the ordinary case: every operation answers "failed" (an
+/// empty value, or false) at the cost of a branch, and throws nothing. Each operation here fails unless a
+/// binding overrides it. Called on the host's own thread only; an object whose live counterpart is gone
+/// answers "failed" to everything.
 class KOB_EXPORT HostObject {
  public:
   HostObject() = default;

@@ -15,8 +15,8 @@ class HostObject;
 /// A reference to a host object; null is "nothing".
 using HostRef = std::shared_ptr<HostObject>;
 
-/// A value that a host object gives or takes: nothing (also an object reference to nothing), a Boolean, a 32-bit
-/// integer, a double, a text or a host object.
+/// A value that a host object gives or takes: nothing (also an object reference to nothing), a Boolean, a
+/// 32-bit integer, a double, a text or a host object.
 class KOB_EXPORT Value {
  public:
   Value() noexcept = default;
@@ -32,8 +32,8 @@ class KOB_EXPORT Value {
   /// The text itself when the value is one, else null: reading it without a copy.
   const Text* text() const noexcept { return std::get_if<Text>(&value_); }
 
-  // Conversions follow the rules of automation hosts; a value that does not convert gives an empty result, which
-  // is a failed operation. Nothing and objects convert to nothing but themselves.
+  // Conversions follow the rules of automation hosts; a value that does not convert gives an empty result,
+  // which is a failed operation. Nothing and objects convert to nothing but themselves.
 
   /// A number becomes its shortest decimal form, a Boolean "True" or "False".
   std::optional<Text> asText() const&;

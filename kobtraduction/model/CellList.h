@@ -14,10 +14,11 @@ namespace kob {
 class KOBCellTraduction;
 
 /// A cell's children: an ordered list numbered from 1 like OrderedList, that also finds a child by name in
-/// constant time and inserts by name in logarithmic time. Both answers are those of a walk from the first item,
-/// whatever a host does to the list or to the names of the cells in it: the cells tell the lists that hold them
-/// when they are renamed. An item may be nothing (a host can add it); a walk that meets it fails with
-/// ObjectNotSet. A position outside 1..count fails with InvalidIndex and changes nothing. Used on one thread.
+/// constant time and inserts by name in logarithmic time. Both answers are those of a walk from the first
+/// item, whatever a host does to the list or to the names of the cells in it: the cells tell the lists that
+/// hold them when they are renamed. An item may be nothing (a host can add it); a walk that meets it fails
+/// with ObjectNotSet. A position outside 1..count fails with InvalidIndex and changes nothing. Used on one
+/// thread.
 class KOB_EXPORT CellList {
  public:
   class const_iterator;
@@ -50,7 +51,7 @@ class KOB_EXPORT CellList {
   void insertSorted(std::shared_ptr<KOBCellTraduction> cell);
   /// A cell of the list is about to lose its present name / has its new name.
   void beforeRename(KOBCellTraduction& cell) noexcept;
-  void afterRename(KOBCellTraduction& cell) noexcept;
+  void afterRename(KOBCellTraduction& cell);
 
  private:
   /// Items are kept in chunks of bounded size, so that an insertion in the middle moves few of them.
@@ -66,11 +67,16 @@ class KOB_EXPORT CellList {
   enum class Order : std::uint8_t { Sorted, Unsorted, Unknown };
 
   Place locate(std::int32_t position) const;
+  Place endPlace() const noexcept;
   void insert(Place place, std::shared_ptr<KOBCellTraduction> cell);
+  /// Makes room in a full chunk; the place where the insertion now goes.
+  Place splitAt(Place place);
   KOBCellTraduction* walkTo(TextView name) const;
   bool isSorted() const;
   bool keepsOrder(Place place) const;
+  /// The place before the first greater name: by halving in a sorted list, by a walk in any other.
   Place upperBound(TextView name) const;
+  Place firstGreater(TextView name) const;
   void buildIndex() const;
   void indexAdd(KOBCellTraduction& cell) const;
   void indexRemove(KOBCellTraduction& cell) const noexcept;
@@ -83,7 +89,8 @@ class KOB_EXPORT CellList {
   /// knows no positions, so it survives insertions; equal names are resolved by a walk.
   mutable std::vector<Slot> index_;
   mutable std::size_t indexed_ = 0;
-  /// The chunk that was read last and the position of its first item: reading by position in order is constant.
+  /// The chunk that was read last and the position of its first item: reading by position in order is
+  /// constant.
   mutable std::size_t cursorChunk_ = 0;
   mutable std::size_t cursorFirst_ = 0;
 };
@@ -91,7 +98,9 @@ class KOB_EXPORT CellList {
 /// Walks the list in order; invalid once the list is changed.
 class CellList::const_iterator {
  public:
-  const std::shared_ptr<KOBCellTraduction>& operator*() const noexcept { return (*list_->chunks_[chunk_])[offset_]; }
+  const std::shared_ptr<KOBCellTraduction>& operator*() const noexcept {
+    return (*list_->chunks_[chunk_])[offset_];
+  }
   const_iterator& operator++() noexcept {
     if (++offset_ == list_->chunks_[chunk_]->size()) {
       ++chunk_;

@@ -4,8 +4,8 @@
 namespace kob {
 
 /// What a control's left or width is multiplied by in one language; 1 leaves it as it is. A factor remembers
-/// whether it still is the small integer 1 that a list is made with, or a double that was assigned: the two are
-/// stored differently.
+/// whether it still is the small integer 1 that a list is made with, or a double that was assigned: the two
+/// are stored differently.
 class Factor {
  public:
   /// The small integer 1.

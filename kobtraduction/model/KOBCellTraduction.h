@@ -15,6 +15,7 @@
 namespace kob {
 
 class HostObject;
+using HostRef = std::shared_ptr<HostObject>;
 
 using EntryList = OrderedList<std::shared_ptr<KOBTraductionObj>>;
 using FactorList = OrderedList<Factor>;
@@ -69,8 +70,8 @@ class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCell
   std::int32_t m_width() const noexcept { return width_; }
   void setm_width(std::int32_t indicator) noexcept { width_ = indicator; }
 
-  /// Assigning a new kind discards what belonged to the old one; the current kind, or a value that is no kind,
-  /// is ignored.
+  /// Assigning a new kind discards what belonged to the old one; the current kind, or a value that is no
+  /// kind, is ignored.
   std::int32_t TypeFeuille() const noexcept { return typeFeuille_; }
   void setTypeFeuille(std::int32_t kind);
   std::int32_t TypeCell() const noexcept { return typeCell_; }
@@ -90,7 +91,8 @@ class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCell
 
   // Internal: for the other classes and rooms of the component.
 
-  /// The cell holds translations that override a control's own in one context, or is the parent of such a cell.
+  /// The cell holds translations that override a control's own in one context, or is the parent of such a
+  /// cell.
   bool Contexte() const noexcept { return contexte_; }
   void setContexte(bool isContext) noexcept { contexte_ = isContext; }
   /// The names from below the root down to this cell, joined by "\"; ancestors named "RACINE" are left out.
@@ -115,23 +117,30 @@ class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCell
   std::shared_ptr<KOBCellTraduction> AddCtrl(TextView nom, TextView tooltip, TextView caption,
                                              std::int32_t left, std::int32_t width, std::int32_t& erreur,
                                              TextView alias, TextView contexte);
-  /// Brings this control's cell up to date, asking before a recorded text is overwritten. Returns the cell that
-  /// now holds the texts, or none when nothing changed, the user declined or `erreur` tells why (-3, -6).
+  /// Brings this control's cell up to date, asking before a recorded text is overwritten. Returns the cell
+  /// that now holds the texts, or none when nothing changed, the user declined or `erreur` tells why (-3,
+  /// -6).
   std::shared_ptr<KOBCellTraduction> UpdateCtrl(TextView tooltip, TextView caption, std::int32_t left,
                                                 std::int32_t width, std::int32_t& erreur, TextView alias,
                                                 TextView contexte);
   /// Writes this cell's texts in `langue` and its factors onto a control. Never fails: what goes wrong in the
   /// model is told by "Erreur Traduit Controle".
-  void TraduitCtrl(HostObject& Ctrl, std::int32_t langue, TextView contexte, bool keepToolTip,
+  void TraduitCtrl(const HostRef& Ctrl, std::int32_t langue, TextView contexte, bool keepToolTip,
                    bool keepCaption) const;
 
  private:
   friend class CellList;
+  friend class CellWalk;
 
-  std::shared_ptr<KOBCellTraduction> addChild(std::shared_ptr<KOBCellTraduction> child, TextView name,
-                                              TextView alias);
+  /// Makes a leaf a node; whether `name` is free among the children, else -2 in `erreur`.
+  bool admits(TextView name, std::int32_t* erreur);
+  void clearTranslations() noexcept;
   /// The children, or ObjectNotSet.
   CellList& children() const;
+  /// A child made by AddNoeuds or AddMessage: named and put in its place.
+  void insertChild(const std::shared_ptr<KOBCellTraduction>& child, TextView name, TextView alias);
+  void addHolder(CellList& list);
+  void removeHolder(CellList& list) noexcept;
 
   Text nom_;
   Text alias_;
@@ -149,6 +158,8 @@ class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCell
   std::int32_t typeCell_ = -1;
   std::int32_t typeFeuille_ = -1;
   bool contexte_ = false;
+  /// A walk is inside this cell.
+  bool isWalked_ = false;
 };
 
 }  // namespace kob

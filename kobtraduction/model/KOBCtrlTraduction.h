@@ -11,16 +11,17 @@
 namespace kob {
 
 /// Stands for one toolbar button or one entry of a button's menu in the list of controls that harvesting and
-/// applying walk. It is a host object itself, so paths and texts are read from it as from a control. While it is
-/// bound to its host object (m_Ctrl), assigning Caption, ToolTipText, left or width writes the value through; a
-/// host that refuses is ignored, and the record keeps the new value all the same. It reads nothing from the host.
+/// applying walk. It is a host object itself, so paths and texts are read from it as from a control. While it
+/// is bound to its host object (m_Ctrl), assigning Caption, ToolTipText, left or width writes the value
+/// through; a host that refuses is ignored, and the record keeps the new value all the same. It reads nothing
+/// from the host.
 class KOB_EXPORT KOBCtrlTraduction final : public HostObject {
  public:
   KOBCtrlTraduction();
 
   // The fields; assigning one of them directly writes nothing through. Paths and harvesting read Name, Index,
-  // Container and tag by these names. Nothing assigns Index or tag after creation: a record is never an element
-  // of a control array and carries neither context nor marker.
+  // Container and tag by these names. Nothing assigns Index or tag after creation: a record is never an
+  // element of a control array and carries neither context nor marker.
   Text m_Caption;
   Text m_ToolTipText;
   Text Name;

@@ -14,12 +14,13 @@ namespace kob {
 /// A translation model: the tree of cells below the root "RACINE", and the operations that harvest live forms
 /// into it and apply it to them. It is the one class that a host creates.
 ///
-/// Languages are numbered from 1, the reference language in which the forms are written. The language count is
-/// one value per thread, shared by all models of the thread: creating a model raises it to 6 when it is lower,
-/// and it never shrinks. A model, its cells and the host objects handed to it are used on one thread only.
+/// Languages are numbered from 1, the reference language in which the forms are written. The language count
+/// is one value per thread, shared by all models of the thread: creating a model raises it to 6 when it is
+/// lower, and it never shrinks. A model, its cells and the host objects handed to it are used on one thread
+/// only.
 ///
-/// A path is the names of cells below the root joined by "\"; case and empty segments do not count, and an empty
-/// path is the root.
+/// A path is the names of cells below the root joined by "\"; case and empty segments do not count, and an
+/// empty path is the root.
 class KOB_EXPORT KOBModeleTraduction {
  public:
   KOBModeleTraduction();
@@ -40,20 +41,22 @@ class KOB_EXPORT KOBModeleTraduction {
   /// Other models of the thread see the new count, but keep their shorter lists.
   void setNbLangues(std::int32_t count);
 
-  /// Fills a language of every entry with the reference text marked as a test / with "". Only languages from 2 to
-  /// the language count can be chosen; any other value does nothing.
+  /// Fills a language of every entry with the reference text marked as a test / with "". Only languages from
+  /// 2 to the language count can be chosen; any other value does nothing.
   void UpdateTestLangue(std::int32_t langue);
   void ClearLangue(std::int32_t langue);
 
-  /// Records the texts of a live form and of all its controls as language 1. A null form, like every failure the
-  /// rules do not forgive, ends the call with the message "ERREUR " and a step marker; what was recorded stays.
+  /// Records the texts of a live form and of all its controls as language 1. A null form, like every failure
+  /// the rules do not forgive, ends the call with the message "ERREUR " and a step marker; what was recorded
+  /// stays.
   void UpdateWithForm(const HostRef& dlg, TextView module = {}, bool onlyVisible = false,
                       const HostRef& OnlyContainer = nullptr);
   /// The same for one control.
   void UpdateWithCtrl(const HostRef& Ctrl, TextView module = {});
 
-  /// Writes the texts of language `langue` onto a live form and its controls, and scales left and width where the
-  /// model says so. Failures end in a message ("ERREUR", "Erreur Traduit Controle"), never in an exception.
+  /// Writes the texts of language `langue` onto a live form and its controls, and scales left and width where
+  /// the model says so. Failures end in a message ("ERREUR", "Erreur Traduit Controle"), never in an
+  /// exception.
   void TraduitDialog(const HostRef& dlg, std::int32_t langue, TextView module = {}, bool onlyVisible = false,
                      const HostRef& OnlyContainer = nullptr);
   /// The same for one control.
@@ -65,9 +68,9 @@ class KOB_EXPORT KOBModeleTraduction {
   /// The path of a form, a control or a control record. Neither reads nor changes the model.
   Text GetPath(const HostRef& Ctrl, TextView module = {}) const;
 
-  /// The text of a message cell in `langue`, its reference text when that is "", and "" for every other cell and
-  /// for an unknown path. `nom` is accepted and changes nothing. Fails with InvalidIndex when the entry has no
-  /// item `langue`.
+  /// The text of a message cell in `langue`, its reference text when that is "", and "" for every other cell
+  /// and for an unknown path. `nom` is accepted and changes nothing. Fails with InvalidIndex when the entry
+  /// has no item `langue`.
   Text GetTraduction(TextView path, std::int32_t langue, TextView nom = {}) const;
 
   // Internal: for the other rooms of the component.

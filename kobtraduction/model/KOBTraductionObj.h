@@ -12,10 +12,11 @@ namespace kob {
 
 /// One text in every language: the message of a message cell, or one named translation ("Caption", "ToolTip")
 /// of a control cell. Item i of ColTraduction is the text in language i, item 1 the reference; "" is "not
-/// translated". Languages are numbered 1..Global_Util::NbLangues() of the calling thread; the object belongs to
-/// the thread that made it.
+/// translated". Languages are numbered 1..Global_Util::NbLangues() of the calling thread; the object belongs
+/// to the thread that made it.
 ///
-/// Failures: reading an item that the list does not have is InvalidIndex, a list that is none is ObjectNotSet.
+/// Failures: reading an item that the list does not have is InvalidIndex, a list that is none is
+/// ObjectNotSet.
 class KOB_EXPORT KOBTraductionObj {
  public:
   /// One "" per language of the thread's language count, and no name.
@@ -34,13 +35,14 @@ class KOB_EXPORT KOBTraductionObj {
 
   // Internal: for the other classes and rooms of the component.
 
-  /// Appends "" for each i from the present count up to the language count, inclusive: always one more than the
-  /// gap, so an entry already at the count still receives one.
+  /// Appends "" for each i from the present count up to the language count, inclusive: always one more than
+  /// the gap, so an entry already at the count still receives one.
   void UpdateNbLangues();
   /// Makes `langue` a test language: the reference text between "** " and " **".
   void UpdateTestLangue(std::int32_t langue);
   void ClearLangue(std::int32_t langue);
-  /// Copies this entry's texts into the gaps of `target` when both have the same reference text (case ignored).
+  /// Copies this entry's texts into the gaps of `target` when both have the same reference text (case
+  /// ignored).
   void CompleteTraduction(KOBTraductionObj& target) const;
   /// The same for a bare list whose reference text is passed separately.
   void CompleteColTraduction(TextView reference, TextList& list) const;

@@ -10,10 +10,10 @@
 
 namespace kob {
 
-/// The texts of one entry, item i in language i. It reads like an OrderedList of texts, but a text may be a view
-/// into an image that the list keeps alive (a loaded file): such a text costs no allocation of its own, and only
-/// what is added by value is owned. A position outside 1..count fails with FailureKind::InvalidIndex and changes
-/// nothing. Used on one thread.
+/// The texts of one entry, item i in language i. It reads like an OrderedList of texts, but a text may be a
+/// view into an image that the list keeps alive (a loaded file): such a text costs no allocation of its own,
+/// and only what is added by value is owned. A position outside 1..count fails with FailureKind::InvalidIndex
+/// and changes nothing. Used on one thread.
 class KOB_EXPORT TextList {
  public:
   TextList() = default;
@@ -63,6 +63,8 @@ class TextList::Slot {
   bool owned_;
 };
 
-inline TextView TextList::Item(std::int32_t position) const { return slots_[index(position)].text(); }
+inline TextView TextList::Item(std::int32_t position) const {
+  return slots_[index(position)].text();
+}
 
 }  // namespace kob

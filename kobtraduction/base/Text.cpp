@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobtraduction/base/Text.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace kob {
+
+namespace {
+
+/// Four code units side by side, so that ordinary (ASCII) names are folded and compared four at a time.
+using Word = std::uint64_t;
+constexpr std::size_t unitsPerWord = sizeof(Word) / sizeof(char16_t);
+constexpr Word everyUnit = 0x0001'0001'0001'0001;
+
+Word loadWord(const char16_t* units) noexcept {
+  Word word = 0;
+  std::memcpy(&word, units, sizeof word);
+  return word;
+}
+
+bool isAscii(Word word) noexcept {
+  return (word & (everyUnit * 0xFF80)) == 0;
+}
+
+/// Upper-cases four ASCII units: bit 7 of a unit is set where it is at least 'a' and not beyond 'z', and
+/// clearing 0x20 there turns the letter over. No sum carries into the next unit.
+Word upperAscii(Word word) noexcept {
+  const Word atLeastA = word + everyUnit * (0x80 - u'a');
+  const Word beyondZ = word + everyUnit * (0x80 - (u'z' + 1));
+  const Word isLower = (atLeastA & ~beyondZ) & (everyUnit * 0x80);
+  return word ^ (isLower >> 2);
+}
+
+Word upperWord(const char16_t* units) noexcept {
+  const Word word = loadWord(units);
+  if (isAscii(word)) {
+    return upperAscii(word);
+  }
+  char16_t folded[unitsPerWord];
+  std::transform(units, units + unitsPerWord, folded, upperUnit);
+  return loadWord(folded);
+}
+
+/// The last units of a text, fewer than a word holds, filled up with zeros.
+Word upperTail(const char16_t* units, std::size_t count) noexcept {
+  char16_t folded[unitsPerWord] = {};
+  std::transform(units, units + count, folded, upperUnit);
+  return loadWord(folded);
+}
+
+Word mix(Word hash, Word word) noexcept {
+  hash = (hash ^ word) * 0x9E37'79B9'7F4A'7C15;
+  return hash ^ (hash >> 29);
+}
+
+}  // namespace
+
+Text upper(TextView text) {
+  Text result(text.size(), u'\0');
+  std::transform(text.begin(), text.end(), result.begin(), upperUnit);
+  return result;
+}
+
+bool equalUpper(TextView a, TextView b) noexcept {
+  if (a.size() != b.size()) {
+    return false;
+  }
+  const std::size_t whole = a.size() - a.size() % unitsPerWord;
+  for (std::size_t i = 0; i < whole; i += unitsPerWord) {
+    if (upperWord(a.data() + i) != upperWord(b.data() + i)) {
+      return false;
+    }
+  }
+  return upperTail(a.data() + whole, a.size() - whole) == upperTail(b.data() + whole, b.size() - whole);
+}
+
+bool lessUpper(TextView a, TextView b) noexcept {
+  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                      [](char16_t x, char16_t y) { return upperUnit(x) < upperUnit(y); });
+}
+
+std::uint32_t hashUpper(TextView text) noexcept {
+  Word hash = text.size();
+  const std::size_t whole = text.size() - text.size() % unitsPerWord;
+  for (std::size_t i = 0; i < whole; i += unitsPerWord) {
+    hash = mix(hash, upperWord(text.data() + i));
+  }
+  if (whole != text.size()) {
+    hash = mix(hash, upperTail(text.data() + whole, text.size() - whole));
+  }
+  return static_cast<std::uint32_t>(hash ^ (hash >> 32));
+}
+
+Text decimal(std::int64_t number) {
+  const std::string digits = std::to_string(number);
+  return {digits.begin(), digits.end()};
+}
+
+}  // namespace kob

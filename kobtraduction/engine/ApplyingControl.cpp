@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobtraduction/component/Global_Util.h>
+#include <kobtraduction/engine/HostModes.h>
+#include <kobtraduction/model/KOBCellTraduction.h>
+
+#include <cmath>
+#include <exception>
+#include <limits>
+#include <vector>
+
+namespace kob {
+
+namespace {
+
+/// The text of an entry in a language, or its reference text when that is "".
+TextView textOf(const KOBTraductionObj& entry, std::int32_t langue) {
+  const TextList& texts = mustBeSet(entry.ColTraduction());
+  const TextView text = texts.Item(langue);
+  return text.empty() ? texts.Item(1) : text;
+}
+
+/// The texts that a cell, and then its context cell, have for one control.
+struct ControlTexts {
+  TextView caption;
+  TextView toolTip;
+  bool hasCaption = false;
+  bool hasToolTip = false;
+
+  /// A later entry of the same name overrides an earlier one.
+  void readFrom(const KOBCellTraduction& cell, std::int32_t langue) {
+    for (const auto& entry : mustBeSet(cell.ColTraduction())) {
+      const Text& name = mustBeSet(entry).nom();
+      if (equalUpper(name, u"CAPTION")) {
+        hasCaption = true;
+        caption = textOf(*entry, langue);
+      } else if (equalUpper(name, u"TOOLTIP")) {
+        hasToolTip = true;
+        toolTip = textOf(*entry, langue);
+      }
+    }
+  }
+};
+
+/// The captions that a cell's children `stem(0)`, `stem(1)`, ... have for the tabs; others are left as they
+/// are.
+void readTabs(const KOBCellTraduction& cell, const Text& stem, std::int32_t langue, std::int32_t count,
+              std::vector<Text>& captions) {
+  for (std::int32_t i = 0; i < count; ++i) {
+    const auto tabCell = cell.GetCell(stem + u'(' + decimal(i) + u')');
+    if (tabCell == nullptr) {
+      continue;
+    }
+    // Tool tips are read too, and written nowhere: a text that cannot be read still ends the call.
+    ControlTexts texts;
+    texts.readFrom(*tabCell, langue);
+    if (texts.hasCaption) {
+      captions.resize(std::max<std::size_t>(captions.size(), static_cast<std::size_t>(i) + 1));
+      captions[static_cast<std::size_t>(i)] = texts.caption;
+    }
+  }
+}
+
+void translateTabs(const KOBCellTraduction& cell, const HostRef& control, std::int32_t langue,
+                   TextView context, bool keepCaption) {
+  const std::int32_t count = must(readLong(control, Property::Tabs));
+  std::vector<Text> captions;
+  readTabs(cell, cell.nom(), langue, count, captions);
+  if (!context.empty()) {
+    if (const auto contextCell = cell.GetCell(context)) {
+      readTabs(*contextCell, cell.nom(), langue, count, captions);
+    }
+  }
+  const std::int32_t last = must(readLong(control, Property::Tabs));
+  for (std::int32_t i = 0; i < last && !keepCaption; ++i) {
+    if (i >= count) {
+      throw Failure(FailureKind::InvalidIndex);
+    }
+    // A tab for which the model has nothing is blanked: a strip shows the model's captions or none.
+    const auto position = static_cast<std::size_t>(i);
+    must(control->setIndexed(Property::TabCaption, i,
+                             position < captions.size() ? captions[position] : Text()));
+  }
+}
+
+/// Multiplies what the control has now, so that applying twice scales twice; hosts rely on it.
+void scale(const HostRef& control, Property property, double factor) {
+  if (factor <= 0 || factor == 1.0) {
+    return;
+  }
+  const std::optional<double> current = readDouble(control, property);
+  if (!current) {
+    return;
+  }
+  const double product = std::trunc(*current * factor);
+  const bool isLong = product >= std::numeric_limits<std::int32_t>::min() &&
+                      product <= std::numeric_limits<std::int32_t>::max();
+  write(control, property, isLong ? Value(static_cast<std::int32_t>(product)) : Value(product));
+}
+
+void translate(const KOBCellTraduction& cell, const HostRef& control, std::int32_t langue, TextView context,
+               bool keepToolTip, bool keepCaption) {
+  // Skip mode.
+  double tabs = 0;
+  skip(tabs, readDouble(control, Property::Tabs));
+
+  // Handler mode, up to the writes.
+  if (tabs > 0) {
+    translateTabs(cell, control, langue, context, keepCaption);
+    return;
+  }
+  if (cell.TypeFeuille() != 2) {
+    return;
+  }
+  ControlTexts texts;
+  texts.readFrom(cell, langue);
+  double leftFactor = mustBeSet(cell.ColLeft()).Item(langue).value();
+  double widthFactor = mustBeSet(cell.ColWidth()).Item(langue).value();
+  std::shared_ptr<KOBCellTraduction> contextCell;
+  if (!context.empty()) {
+    contextCell = cell.GetCell(context);
+    if (contextCell != nullptr) {
+      texts.readFrom(*contextCell, langue);
+      leftFactor = mustBeSet(contextCell->ColLeft()).Item(langue).value();
+      widthFactor = mustBeSet(contextCell->ColWidth()).Item(langue).value();
+    }
+  }
+
+  // Skip mode. The host may change the model while it takes a value, so both values are made before the
+  // writes.
+  const Value caption(texts.caption);
+  const Value toolTip(texts.toolTip);
+  if (!keepCaption && texts.hasCaption) {
+    write(control, Property::Caption, caption);
+  }
+  if (!keepToolTip && texts.hasToolTip) {
+    write(control, Property::ToolTipText, toolTip);
+  }
+  scale(control, Property::Left, leftFactor);
+  scale(control, Property::Width, widthFactor);
+}
+
+}  // namespace
+
+void KOBCellTraduction::TraduitCtrl(const HostRef& Ctrl, std::int32_t langue, TextView contexte,
+                                    bool keepToolTip, bool keepCaption) const {
+  try {
+    translate(*this, Ctrl, langue, contexte, keepToolTip, keepCaption);
+  } catch (const std::exception&) {
+    Global_Util::messageBoxes().notice(u"Erreur Traduit Controle");
+  }
+}
+
+}  // namespace kob

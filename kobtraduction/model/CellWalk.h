@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <kobtraduction/base/Failure.h>
+#include <kobtraduction/model/KOBCellTraduction.h>
+
+#include <memory>
+#include <vector>
+
+namespace kob {
+
+/// The walk of every whole-tree operation: depth first, a cell before its children, children in list order.
+/// It keeps its own stack, so that the depth of a tree is never the depth of the call stack, and it does not
+/// enter a cell that it is already inside of (a host can put a cell below itself). A node without a list, or
+/// an item that is nothing, fails with ObjectNotSet when it is reached. Lists must not change during the
+/// walk. Internal.
+class CellWalk {
+ public:
+  CellWalk() = default;
+  CellWalk(const CellWalk&) = delete;
+  CellWalk& operator=(const CellWalk&) = delete;
+  ~CellWalk() {
+    while (!open_.empty()) {
+      leave();
+    }
+  }
+
+  /// Calls visit(cell) for `root` and every cell below it.
+  template <class Visit>
+  static void each(KOBCellTraduction& root, Visit&& visit) {
+    CellWalk walk;
+    for (KOBCellTraduction* cell = &root; cell != nullptr; cell = walk.next()) {
+      visit(*cell);
+      walk.enter(*cell);
+    }
+  }
+
+ private:
+  struct Level {
+    KOBCellTraduction* cell;
+    std::shared_ptr<CellList> children;
+    CellList::const_iterator next;
+  };
+
+  void enter(KOBCellTraduction& cell) {
+    if (cell.TypeCell() != 1 || cell.isWalked_) {
+      return;
+    }
+    if (cell.ColCell() == nullptr) {
+      throw Failure(FailureKind::ObjectNotSet);
+    }
+    open_.push_back({&cell, cell.ColCell(), cell.ColCell()->begin()});
+    cell.isWalked_ = true;
+  }
+
+  KOBCellTraduction* next() {
+    while (!open_.empty() && open_.back().next == open_.back().children->end()) {
+      leave();
+    }
+    if (open_.empty()) {
+      return nullptr;
+    }
+    KOBCellTraduction* const cell = (*open_.back().next).get();
+    ++open_.back().next;
+    if (cell == nullptr) {
+      throw Failure(FailureKind::ObjectNotSet);
+    }
+    return cell;
+  }
+
+  void leave() noexcept {
+    open_.back().cell->isWalked_ = false;
+    open_.pop_back();
+  }
+
+  std::vector<Level> open_;
+};
+
+}  // namespace kob

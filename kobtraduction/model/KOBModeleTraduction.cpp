@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobtraduction/base/Failure.h>
+#include <kobtraduction/component/Global_Util.h>
+#include <kobtraduction/model/KOBModeleTraduction.h>
+
+namespace kob {
+
+namespace {
+
+/// What every model starts with, and the least that a thread counts once it has a model.
+constexpr std::int32_t initialLanguages = 6;
+
+}  // namespace
+
+KOBModeleTraduction::KOBModeleTraduction() : racine_(KOBCellTraduction::createNode()) {
+  racine_->setnom(u"RACINE");
+  setNbLangues(initialLanguages);
+}
+
+KOBModeleTraduction::~KOBModeleTraduction() = default;
+
+std::int32_t KOBModeleTraduction::NbLangues() const noexcept {
+  return Global_Util::NbLangues();
+}
+
+void KOBModeleTraduction::setNbLangues(std::int32_t count) {
+  if (count <= Global_Util::NbLangues()) {
+    return;
+  }
+  Global_Util::setNbLangues(count);
+  racine_->UpdateNbLangues();
+}
+
+void KOBModeleTraduction::UpdateTestLangue(std::int32_t langue) {
+  if (langue > 1 && langue <= NbLangues()) {
+    racine_->UpdateTestLangue(langue);
+  }
+}
+
+void KOBModeleTraduction::ClearLangue(std::int32_t langue) {
+  if (langue > 1 && langue <= NbLangues()) {
+    racine_->ClearLangue(langue);
+  }
+}
+
+KOBCellTraduction* KOBModeleTraduction::findCell(TextView path) const {
+  KOBCellTraduction* cell = racine_.get();
+  while (cell != nullptr) {
+    const std::size_t start = path.find_first_not_of(u'\\');
+    if (start == TextView::npos) {
+      break;
+    }
+    path.remove_prefix(start);
+    const TextView segment = path.substr(0, path.find(u'\\'));
+    cell = cell->findCell(segment);
+    path.remove_prefix(segment.size());
+  }
+  return cell;
+}
+
+std::shared_ptr<KOBCellTraduction> KOBModeleTraduction::GetCell(TextView path) const {
+  KOBCellTraduction* const cell = findCell(path);
+  return cell != nullptr ? cell->shared_from_this() : nullptr;
+}
+
+Text KOBModeleTraduction::GetTraduction(TextView path, std::int32_t langue, TextView /*nom*/) const {
+  const std::shared_ptr<KOBCellTraduction> cell = GetCell(path);
+  // Only message cells are answered; who wants a control's texts reads the cell's ColTraduction.
+  if (cell == nullptr || cell->TypeFeuille() != 1) {
+    return {};
+  }
+  if (cell->Traduction() == nullptr || cell->Traduction()->ColTraduction() == nullptr) {
+    throw Failure(FailureKind::ObjectNotSet);
+  }
+  const TextList& texts = *cell->Traduction()->ColTraduction();
+  const TextView text = texts.Item(langue);
+  return Text(text.empty() ? texts.Item(1) : text);
+}
+
+}  // namespace kob

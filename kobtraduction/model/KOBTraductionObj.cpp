@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobtraduction/base/Failure.h>
+#include <kobtraduction/component/Global_Util.h>
+#include <kobtraduction/model/KOBTraductionObj.h>
+
+namespace kob {
+
+KOBTraductionObj::KOBTraductionObj() : colTraduction_(std::make_shared<TextList>()) {
+  for (std::int32_t i = Global_Util::NbLangues(); i > 0; --i) {
+    colTraduction_->AddView({});
+  }
+}
+
+TextList& KOBTraductionObj::texts() const {
+  if (colTraduction_ == nullptr) {
+    throw Failure(FailureKind::ObjectNotSet);
+  }
+  return *colTraduction_;
+}
+
+void KOBTraductionObj::ChangeTraduction(TextView Traduction, std::int32_t Index) {
+  if (Index < 1 || Index > Global_Util::NbLangues()) {
+    return;
+  }
+  // The text may be a view of the very item that goes.
+  const Text text(Traduction);
+  TextList& list = texts();
+  list.Remove(Index);
+  if (Index > list.Count()) {
+    list.Add(text);
+  } else {
+    list.Add(text, Index);
+  }
+}
+
+void KOBTraductionObj::UpdateNbLangues() {
+  TextList& list = texts();
+  // Starts at the present count and not one past it: each extension overshoots by one, and files hold lists
+  // of that length.
+  for (std::int32_t i = list.Count(), last = Global_Util::NbLangues(); i <= last; ++i) {
+    list.AddView({});
+  }
+}
+
+void KOBTraductionObj::UpdateTestLangue(std::int32_t langue) {
+  ChangeTraduction(u"** " + Text(texts().Item(1)) + u" **", langue);
+}
+
+void KOBTraductionObj::ClearLangue(std::int32_t langue) {
+  ChangeTraduction({}, langue);
+}
+
+void KOBTraductionObj::CompleteTraduction(KOBTraductionObj& target) const {
+  const TextList& source = texts();
+  if (!equalUpper(target.texts().Item(1), source.Item(1))) {
+    return;
+  }
+  for (std::int32_t i = 2, last = Global_Util::NbLangues(); i <= last; ++i) {
+    if (target.texts().Item(i).empty()) {
+      target.ChangeTraduction(source.Item(i), i);
+    }
+  }
+}
+
+void KOBTraductionObj::CompleteColTraduction(TextView reference, TextList& list) const {
+  const TextList& source = texts();
+  if (!equalUpper(reference, source.Item(1))) {
+    return;
+  }
+  const std::int32_t last = Global_Util::NbLangues();
+  for (std::int32_t i = 2; i <= last; ++i) {
+    if (!list.Item(i).empty() || source.Item(i).empty()) {
+      continue;
+    }
+    const Text text(source.Item(i));
+    list.Remove(i);
+    if (i < last) {
+      list.Add(text, i);
+    } else {
+      // A list that was extended is one longer than the language count: the last language's text then goes
+      // behind that extra item. Callers live with it.
+      list.Add(text);
+    }
+  }
+}
+
+bool KOBTraductionObj::ContainsText(TextView search) const {
+  const TextView reference = texts().Item(1);
+  if (reference.empty() || reference.size() < search.size()) {
+    return false;
+  }
+  for (std::size_t start = 0; start + search.size() <= reference.size(); ++start) {
+    if (equalUpper(reference.substr(start, search.size()), search)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+bool KOBTraductionObj::IsLangueEmpty(std::int16_t index) const {
+  return texts().Item(index + 1).empty();
+}
+
+}  // namespace kob
