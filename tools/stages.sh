@@ -1,0 +1,179 @@
+# The stages of ./dev test. Sourced by ./dev.
+#
+# A stage is a function that ends by calling `counted PASSED FAILED SKIPPED`. One that ends in any other way has
+# failed, and counts as one failure.
+
+whole=no
+stages=(lint suite asan no-gui headers consumer demo fidelity)
+results="$root/build/results"
+
+counted() {
+  stage_passed=$1 stage_failed=$2 stage_skipped=$3
+  echo "$1 $2 $3" >"$results/$stage.counts"
+}
+
+# stage_skip WHY: the whole stage counts as one skipped case.
+stage_skip() {
+  echo "skipped: $1"
+  counted 0 0 1
+}
+
+# checks: every following `check NAME COMMAND...` counts as one case.
+checks() { checks_passed=0 checks_failed=0; }
+check() {
+  local name=$1
+  shift
+  if "$@" >"$results/check.log" 2>&1; then
+    checks_passed=$((checks_passed + 1))
+  else
+    checks_failed=$((checks_failed + 1))
+    echo "FAILED: $name"
+    tail -n 60 "$results/check.log"
+  fi
+}
+
+# run_ctest PRESET: the suite of a build folder, its cases counted one by one.
+run_ctest() {
+  local preset=$1 cases="$root/build/$1/results" junit="$root/build/$1/ctest.xml" log="$results/ctest-$1.log"
+  rm -rf "$cases" "$junit"
+  mkdir -p "$cases"
+  on_virtual_screen ctest --test-dir "build/$preset" --output-on-failure -j "$(nproc)" --timeout 600 \
+    --no-tests=error --output-junit "$junit" >"$log" 2>&1 || grep -vE '^ *[0-9]+/[0-9]+ .* Passed ' "$log" || true
+  # shellcheck disable=SC2046
+  counted $(tools/results.py "$junit" "$cases")
+}
+
+stage_lint() {
+  configure_preset release
+  local counts="$results/lint.out"
+  tools/lint/lint.py --counts "$counts" || true
+  # shellcheck disable=SC2046
+  counted $(cat "$counts")
+}
+
+stage_suite() {
+  build_preset release
+  run_ctest release
+}
+
+stage_asan() {
+  build_preset asan
+  local ASAN_OPTIONS="detect_stack_use_after_return=1:strict_string_checks=1:detect_leaks=1"
+  local LSAN_OPTIONS="suppressions=$root/tools/leaks-of-others.txt:print_suppressions=0"
+  local UBSAN_OPTIONS="print_stacktrace=1"
+  export ASAN_OPTIONS LSAN_OPTIONS UBSAN_OPTIONS
+  run_ctest asan
+}
+
+stage_no_gui() {
+  build_preset no-gui
+  run_ctest no-gui
+  # What was built here needs the standard library and nothing else.
+  local foreign
+  foreign=$(objdump -p build/no-gui/kobtraduction/libKOBTraduction.so |
+            awk '$1 == "NEEDED" && $2 !~ /^(libstdc\+\+|libgcc_s|libm|libc|ld-linux)/ {print $2}')
+  if [ -n "$foreign" ]; then
+    echo "FAILED: the component needs $foreign"
+    counted "$stage_passed" $((stage_failed + 1)) "$stage_skipped"
+  else
+    counted $((stage_passed + 1)) "$stage_failed" "$stage_skipped"
+  fi
+}
+
+stage_headers() {
+  local log="$results/headers.log" all good
+  configure_preset release
+  cmake --build build/release --target kob_headers -- -k 0 >"$log" 2>&1 || grep -E 'error|FAILED' "$log" || true
+  all=$(find build/release/tests/headers/alone -name '*.cpp' | wc -l)
+  good=$(find build/release/tests/headers -name '*.o' -newer "$results/headers.started" | wc -l)
+  counted "$good" $((all - good)) 0
+}
+
+stage_consumer() {
+  build_preset release
+  tests/consumer/run.sh build/release build/consumer "$results/consumer.counts.out"
+  # shellcheck disable=SC2046
+  counted $(cat "$results/consumer.counts.out")
+}
+
+stage_demo() {
+  build_preset release kobdemo
+  rm -rf build/pictures
+  on_virtual_screen build/release/bin/kobdemo --pictures build/pictures
+  local pictures
+  pictures=$(find build/pictures -name '*.png' | wc -l)
+  [ "$pictures" -gt 0 ] || { echo "FAILED: no picture was taken"; return 1; }
+  counted "$pictures" 0 0
+}
+
+stage_fidelity() {
+  local corpus="$root/../shared/corpus/qt" sample=(--sample 3)
+  [ -d "$corpus" ] || { stage_skip "there are no applications in ../shared/corpus/qt"; return; }
+  [ "$whole" = no ] || sample=()
+  build_preset release kobfidelity
+  QT_QPA_PLATFORM=offscreen build/release/bin/kobfidelity "$corpus"/*/ "${sample[@]}" >"$results/fidelity.log" ||
+    { tail -n 40 "$results/fidelity.log"; return 1; }
+  grep '^fidelity: ' "$results/fidelity.log"
+  counted 1 0 0
+}
+
+stage_mutate() {
+  tests/mutate/mutate
+  counted 1 0 0
+}
+
+seconds_as_time() { printf '%d:%02d' $(($1 / 60)) $(($1 % 60)); }
+
+# run_stage NAME: in a shell of its own, so that nothing that goes wrong in it ends the run.
+run_stage() {
+  local started=$SECONDS
+  stage=$1
+  echo
+  echo "== $stage"
+  rm -f "$results/$stage.counts"
+  touch "$results/$stage.started"
+  # Not in a condition: there, the shell would not end at the first command that fails.
+  set +e
+  (set -e; "stage_${stage//-/_}")
+  set -e
+  if ! [ -s "$results/$stage.counts" ]; then
+    echo "FAILED: the stage $stage did not come to its end"
+    echo "0 1 0" >"$results/$stage.counts"
+  fi
+  local passed failed skipped
+  read -r passed failed skipped <"$results/$stage.counts"
+  line=$(printf '%-10s %8s %8s %8s %8s' "$stage" "$(seconds_as_time $((SECONDS - started)))" \
+                "$passed" "$failed" "$skipped")
+  echo "-- $stage: $passed passed, $failed failed, $skipped skipped in $(seconds_as_time $((SECONDS - started)))"
+  table+=("$line")
+  sum_passed=$((sum_passed + passed)) sum_failed=$((sum_failed + failed)) sum_skipped=$((sum_skipped + skipped))
+}
+
+run_stages() {
+  local only= begun=$SECONDS line stage table=() sum_passed=0 sum_failed=0 sum_skipped=0
+  while [ $# -gt 0 ]; do
+    case "$1" in
+      --all) whole=yes; stages+=(mutate) ;;
+      --only) only=${2:?--only takes stages, divided by commas}; shift ;;
+      *) echo "./dev test: '$1' is not understood; see ./dev test --help" >&2; exit 2 ;;
+    esac
+    shift
+  done
+  [ -z "$only" ] || IFS=, read -r -a stages <<<"$only"
+  for stage in "${stages[@]}"; do
+    declare -F "stage_${stage//-/_}" >/dev/null || { echo "./dev test: there is no stage '$stage'" >&2; exit 2; }
+  done
+  # Properties try more cases in a whole run.
+  [ "$whole" = no ] || export RC_PARAMS="max_success=2000"
+  mkdir -p "$results"
+  for stage in "${stages[@]}"; do
+    run_stage "$stage"
+  done
+  echo
+  printf '%-10s %8s %8s %8s %8s\n' stage time passed failed skipped
+  printf '%s\n' "${table[@]}"
+  printf '%-10s %8s\n' all "$(seconds_as_time $((SECONDS - begun)))"
+  echo
+  echo "$sum_passed passed, $sum_failed failed, $sum_skipped skipped"
+  [ "$sum_failed" -eq 0 ] && [ "$sum_passed" -gt 0 ]
+}
