@@ -29,7 +29,7 @@ struct ControlTexts {
   /// A later entry of the same name overrides an earlier one.
   void readFrom(const KOBCellTraduction& cell, std::int32_t langue) {
     for (const auto& entry : mustBeSet(cell.ColTraduction())) {
-      const Text& name = mustBeSet(entry).nom();
+      const TextView name = mustBeSet(entry).nom();
       if (equalUpper(name, u"CAPTION")) {
         hasCaption = true;
         caption = textOf(*entry, langue);
@@ -43,10 +43,10 @@ struct ControlTexts {
 
 /// The captions that a cell's children `stem(0)`, `stem(1)`, ... have for the tabs; others are left as they
 /// are.
-void readTabs(const KOBCellTraduction& cell, const Text& stem, std::int32_t langue, std::int32_t count,
+void readTabs(const KOBCellTraduction& cell, TextView stem, std::int32_t langue, std::int32_t count,
               std::vector<Text>& captions) {
   for (std::int32_t i = 0; i < count; ++i) {
-    const auto tabCell = cell.GetCell(stem + u'(' + decimal(i) + u')');
+    const auto tabCell = cell.GetCell(Text(stem) + u'(' + decimal(i) + u')');
     if (tabCell == nullptr) {
       continue;
     }

@@ -188,7 +188,7 @@ CellRef KOBCellTraduction::UpdateCtrl(TextView tooltip, TextView caption, std::i
     if (typeFeuille_ == 0) {
       setTypeFeuille(2);
     } else if (typeFeuille_ == 2 &&
-               !isToBeChanged(u"Le Controle " + nom_, firstTexts(*this), caption, tooltip)) {
+               !isToBeChanged(u"Le Controle " + Text(nom()), firstTexts(*this), caption, tooltip)) {
       return nullptr;
     }
     return changeTarget(*this, caption, tooltip, left, width);
@@ -201,7 +201,7 @@ CellRef KOBCellTraduction::UpdateCtrl(TextView tooltip, TextView caption, std::i
       erreur = -6;
       return nullptr;
     }
-    const Text subject = u"Le Contexte " + Text(contexte) + u" du controle " + nom_;
+    const Text subject = u"Le Contexte " + Text(contexte) + u" du controle " + Text(nom());
     if (!isToBeChanged(subject, firstTexts(*known), caption, tooltip)) {
       return nullptr;
     }

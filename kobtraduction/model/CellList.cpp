@@ -229,7 +229,7 @@ bool CellList::keepsOrder(Place place) const {
   } else if (place.chunk + 1 < chunks_.size()) {
     after = chunks_[place.chunk + 1]->front().get();
   }
-  const Text& name = chunk[place.offset]->nom();
+  const TextView name = chunk[place.offset]->nom();
   return (before == nullptr || !lessUpper(name, before->nom())) &&
          (after == nullptr || !lessUpper(after->nom(), name));
 }

@@ -101,7 +101,7 @@ std::shared_ptr<KOBCellTraduction> KOBCellTraduction::createNode() {
 }
 
 void KOBCellTraduction::setnom(TextView name) {
-  Text newName(name);
+  StoredText newName(name);
   if (holder_ == nullptr) {
     nom_ = std::move(newName);
     return;
@@ -246,7 +246,7 @@ std::shared_ptr<KOBCellTraduction> KOBCellTraduction::GetCell(TextView name) con
 }
 
 Text KOBCellTraduction::GetCellPath() const {
-  std::vector<TextView> names{nom_};
+  std::vector<TextView> names{nom()};
   MetBefore metBefore;
   metBefore(this);
   for (auto ancestor = parentcell(); ancestor != nullptr && !metBefore(ancestor.get());

@@ -3,6 +3,7 @@
 
 #include <kobtraduction/base/Export.h>
 #include <kobtraduction/base/OrderedList.h>
+#include <kobtraduction/base/StoredText.h>
 #include <kobtraduction/base/Text.h>
 #include <kobtraduction/model/CellList.h>
 #include <kobtraduction/model/Factor.h>
@@ -44,12 +45,12 @@ class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCell
   /// Releases what is below without recursion, however deep it is.
   ~KOBCellTraduction();
 
-  /// The name by which the parent finds the cell, case ignored.
-  const Text& nom() const noexcept { return nom_; }
+  /// The name by which the parent finds the cell, case ignored. The view lives until the name is changed.
+  TextView nom() const noexcept { return nom_.text(); }
   void setnom(TextView name);
   /// A display name; AddNoeuds and AddMessage set it to nom when none is given.
-  const Text& Alias() const noexcept { return alias_; }
-  void setAlias(TextView alias) { alias_ = alias; }
+  TextView Alias() const noexcept { return alias_.text(); }
+  void setAlias(TextView alias) { alias_ = StoredText(alias); }
   std::shared_ptr<KOBCellTraduction> parentcell() const noexcept { return parentCell_.lock(); }
   void setparentcell(const std::shared_ptr<KOBCellTraduction>& parent) noexcept { parentCell_ = parent; }
 
@@ -142,8 +143,8 @@ class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCell
   void addHolder(CellList& list);
   void removeHolder(CellList& list) noexcept;
 
-  Text nom_;
-  Text alias_;
+  StoredText nom_;
+  StoredText alias_;
   std::weak_ptr<KOBCellTraduction> parentCell_;
   std::shared_ptr<CellList> colCell_;
   std::shared_ptr<KOBTraductionObj> traduction_;

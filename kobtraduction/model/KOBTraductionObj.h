@@ -2,6 +2,7 @@
 #pragma once
 
 #include <kobtraduction/base/Export.h>
+#include <kobtraduction/base/StoredText.h>
 #include <kobtraduction/base/Text.h>
 #include <kobtraduction/model/TextList.h>
 
@@ -27,8 +28,9 @@ class KOB_EXPORT KOBTraductionObj {
   void setColTraduction(std::shared_ptr<TextList> texts) noexcept { colTraduction_ = std::move(texts); }
 
   /// The translation's name within a control cell; "" for the entry of a message cell.
-  const Text& nom() const noexcept { return nom_; }
-  void setnom(TextView name) { nom_ = name; }
+  /// The view lives until the name is changed.
+  TextView nom() const noexcept { return nom_.text(); }
+  void setnom(TextView name) { nom_ = StoredText(name); }
 
   /// Replaces the text of language `Index`; an Index outside 1..language count is ignored.
   void ChangeTraduction(TextView Traduction, std::int32_t Index);
@@ -56,7 +58,7 @@ class KOB_EXPORT KOBTraductionObj {
   TextList& texts() const;
 
   std::shared_ptr<TextList> colTraduction_;
-  Text nom_;
+  StoredText nom_;
 };
 
 }  // namespace kob

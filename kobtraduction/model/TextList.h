@@ -2,6 +2,7 @@
 #pragma once
 
 #include <kobtraduction/base/Export.h>
+#include <kobtraduction/base/StoredText.h>
 #include <kobtraduction/base/Text.h>
 
 #include <cstdint>
@@ -21,7 +22,7 @@ class KOB_EXPORT TextList {
   TextList& operator=(const TextList&) = delete;
   ~TextList();
 
-  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(slots_.size()); }
+  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(texts_.size()); }
 
   /// The text at a position; the view lives until the list is changed.
   TextView Item(std::int32_t position) const;
@@ -37,34 +38,14 @@ class KOB_EXPORT TextList {
   void AddView(TextView text);
 
  private:
-  class Slot;
   std::size_t index(std::int32_t position) const;
 
-  std::vector<Slot> slots_;
+  std::vector<StoredText> texts_;
   std::shared_ptr<const void> image_;
 };
 
-/// A text of the list: a pointer, a length, and whether the characters are its own.
-class TextList::Slot {
- public:
-  static Slot view(TextView text) noexcept { return Slot(text, false); }
-  static Slot copy(TextView text);
-  Slot(Slot&& other) noexcept;
-  Slot& operator=(Slot&& other) noexcept;
-  ~Slot();
-
-  TextView text() const noexcept { return {data_, length_}; }
-
- private:
-  Slot(TextView text, bool owned) noexcept;
-
-  const char16_t* data_;
-  std::uint32_t length_;
-  bool owned_;
-};
-
 inline TextView TextList::Item(std::int32_t position) const {
-  return slots_[index(position)].text();
+  return texts_[index(position)].text();
 }
 
 }  // namespace kob
