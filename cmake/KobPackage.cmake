@@ -28,8 +28,6 @@ file(RELATIVE_PATH KOB_PC_TO_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 kob_install(KOBTraduction core KOBTraductionCoreTargets)
 kob_pkgconfig(kobtraduction)
 if(TARGET KOBTraductionQt)
-  set_target_properties(KOBTraductionQt PROPERTIES EXPORT_NAME Qt VERSION ${PROJECT_VERSION}
-                                                   SOVERSION ${PROJECT_VERSION_MAJOR})
   kob_install(KOBTraductionQt qt KOBTraductionQtTargets)
   kob_pkgconfig(kobtraduction-qt)
 endif()

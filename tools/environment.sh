@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2154
 # What every verb of ./dev may count on, whatever shell it was started from. Sourced by ./dev.
 
 export LC_ALL=C.UTF-8

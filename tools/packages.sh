@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2154
 # The Debian 12 packages that each group of verbs needs, and installing what is missing of them. Sourced by ./dev.
 
 declare -A packages=(

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2154
 # The stages of ./dev test. Sourced by ./dev.
 #
 # A stage is a function that ends by calling `counted PASSED FAILED SKIPPED`. One that ends in any other way has
@@ -18,20 +19,6 @@ stage_skip() {
   counted 0 0 1
 }
 
-# checks: every following `check NAME COMMAND...` counts as one case.
-checks() { checks_passed=0 checks_failed=0; }
-check() {
-  local name=$1
-  shift
-  if "$@" >"$results/check.log" 2>&1; then
-    checks_passed=$((checks_passed + 1))
-  else
-    checks_failed=$((checks_failed + 1))
-    echo "FAILED: $name"
-    tail -n 60 "$results/check.log"
-  fi
-}
-
 # run_ctest PRESET: the suite of a build folder, its cases counted one by one.
 run_ctest() {
   local preset=$1 cases="$root/build/$1/results" junit="$root/build/$1/ctest.xml" log="$results/ctest-$1.log"
@@ -46,6 +33,7 @@ run_ctest() {
 stage_lint() {
   configure_preset release
   local counts="$results/lint.out"
+  rm -f "$counts"
   tools/lint/lint.py --counts "$counts" || true
   # shellcheck disable=SC2046
   counted $(cat "$counts")
@@ -90,10 +78,12 @@ stage_headers() {
 }
 
 stage_consumer() {
+  local counts="$results/consumer.out"
+  rm -f "$counts"
   build_preset release
-  tests/consumer/run.sh build/release build/consumer "$results/consumer.counts.out"
+  tests/consumer/run.sh build/release build/consumer "$counts" || true
   # shellcheck disable=SC2046
-  counted $(cat "$results/consumer.counts.out")
+  counted $(cat "$counts")
 }
 
 stage_demo() {
@@ -150,7 +140,7 @@ run_stage() {
 }
 
 run_stages() {
-  local only= begun=$SECONDS line stage table=() sum_passed=0 sum_failed=0 sum_skipped=0
+  local only="" begun=$SECONDS line stage table=() sum_passed=0 sum_failed=0 sum_skipped=0
   while [ $# -gt 0 ]; do
     case "$1" in
       --all) whole=yes; stages+=(mutate) ;;
