@@ -1,0 +1,281 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include "FormWalk.h"
+
+#include "ActionObject.h"
+#include "InternalObjects.h"
+#include "Naming.h"
+#include "TabbedObject.h"
+#include "ToolBarObject.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QStackedWidget>
+#include <QToolBar>
+#include <QToolBox>
+#include <QToolButton>
+#include <QWidgetAction>
+
+#include <algorithm>
+
+namespace kob::qt {
+
+using Link = LiveObject::Link;
+
+FormWalk::FormWalk(QWidget& form, HostRef formObject) : form_(form), formObject_(std::move(formObject)) {
+  const ClassTraits& traits = traits_.of(form.metaObject());
+  const Place place{&form, &traits, formObject_, &traits};
+  if (traits.kind != Kind::WindowTitle) {
+    expose(form, traits, place)->setSecondFace();
+  }
+  visitBelow(form, place);
+  dropTakenActions();
+  number();
+}
+
+std::vector<HostRef> FormWalk::controls() const {
+  std::vector<HostRef> members;
+  members.reserve(controls_.size());
+  for (const Control& control : controls_) {
+    members.push_back(control.object);
+  }
+  return members;
+}
+
+void FormWalk::visitBelow(QWidget& parent, const Place& place) {
+  visitPages(parent, place);
+  const auto* const stack = place.parentTraits->stack ? static_cast<QStackedWidget*>(&parent) : nullptr;
+  for (QObject* const child : parent.children()) {
+    if (child->isWidgetType()) {
+      auto& widget = static_cast<QWidget&>(*child);
+      if (stack == nullptr || stack->indexOf(&widget) < 0) {
+        visitWidget(widget, place);
+      }
+    } else if (auto* const action = qobject_cast<QAction*>(child)) {
+      visitOwnedAction(*action);
+    } else {
+      visitPlainObject(*child);
+    }
+  }
+  visitShownActions(parent, place);
+}
+
+// Showing a page, or activating a sub-window, moves it among its siblings: they are taken by the container's
+// own numbers, which stay.
+void FormWalk::visitPages(QWidget& parent, const Place& place) {
+  if (place.parentTraits->stack) {
+    const auto& stack = static_cast<QStackedWidget&>(parent);
+    for (int i = 0; i < stack.count(); ++i) {
+      visitWidget(*stack.widget(i), place);
+    }
+  }
+}
+
+void FormWalk::visitWidget(QWidget& widget, const Place& place) {
+  const ClassTraits& traits = traits_.of(widget.metaObject());
+  Place inside{&widget, &traits, place.container, place.containerTraits};
+  const bool isButton = buttonWidgets_.count(&widget) != 0;
+  if (!isButton) {
+    const Exposure exposure =
+        madeByToolBars_.count(&widget) != 0
+            ? Exposure::Passed
+            : exposureOf({&widget, traits, place.parent, *place.parentTraits, *place.containerTraits});
+    if (exposure == Exposure::Closed) {
+      return;
+    }
+    if (exposure == Exposure::Control) {
+      std::shared_ptr<LiveObject> object = expose(widget, traits, place);
+      if (traits.kind == Kind::Menu) {
+        // Menus are no containers: what stands in one is the form's.
+        inside.container = formObject_;
+        inside.containerTraits = &traits_.of(form_.metaObject());
+      } else {
+        inside.container = std::move(object);
+        inside.containerTraits = &traits;
+      }
+    }
+  }
+  visitBelow(widget, inside);
+}
+
+// Action groups and the like: only their actions matter.
+void FormWalk::visitPlainObject(const QObject& object) {
+  for (QObject* const child : object.children()) {
+    if (auto* const action = qobject_cast<QAction*>(child)) {
+      visitOwnedAction(*action);
+    } else if (!child->isWidgetType()) {
+      visitPlainObject(*child);
+    }
+  }
+}
+
+void FormWalk::visitOwnedAction(QAction& action) {
+  if (isInternalAction(&action) || shownOnly_.count(&action) != 0) {
+    return;
+  }
+  controls_.push_back(
+      {std::make_shared<ActionObject>(action, ActionObject::Role::Control, formObject_, Link::Parent),
+       formObject_.get()});
+}
+
+// Actions and menus that are nobody's children are part of each form that shows them.
+void FormWalk::visitShownActions(const QWidget& widget, const Place& place) {
+  for (QAction* const action : widget.actions()) {
+    if (auto* const menu = action->menu<QMenu*>();
+        menu != nullptr && menu->parentWidget() == nullptr && looseMenus_.insert(menu).second) {
+      visitWidget(*menu, place);
+    }
+    if (ownerOf(*action) == Owner::Nobody && !isInternalAction(action) && shownOnly_.count(action) == 0) {
+      visitOwnedAction(*action);
+      shownOnly_.insert(action);
+    }
+  }
+}
+
+FormWalk::Owner FormWalk::ownerOf(const QAction& action) {
+  const QObject* owner = action.parent();
+  while (owner != nullptr && !owner->isWidgetType()) {
+    owner = owner->parent();
+  }
+  const auto* widget = static_cast<const QWidget*>(owner);
+  while (widget != nullptr) {
+    if (widget == &form_) {
+      return Owner::Form;
+    }
+    if (looseMenus_.count(widget) != 0) {
+      return Owner::Form;
+    }
+    const QWidget* const parent = widget->parentWidget();
+    const ClassTraits& traits = traits_.of(widget->metaObject());
+    if (widget->isWindow() && !traits.ownedPart) {
+      return Owner::OtherForm;
+    }
+    if (parent == nullptr) {
+      return traits.kind == Kind::Menu ? Owner::Nobody : Owner::OtherForm;
+    }
+    widget = parent;
+  }
+  return Owner::Nobody;
+}
+
+std::shared_ptr<LiveObject> FormWalk::expose(QWidget& widget, const ClassTraits& traits, const Place& place) {
+  const bool isMenu = traits.kind == Kind::Menu;
+  const HostRef& owner = isMenu ? formObject_ : place.container;
+  std::shared_ptr<LiveObject> object;
+  switch (traits.kind) {
+    case Kind::ToolBar: {
+      auto bar = std::make_shared<ToolBarObject>(widget, owner);
+      takeToolBar(static_cast<QToolBar&>(widget), bar);
+      object = std::move(bar);
+      break;
+    }
+    case Kind::TabWidget:
+    case Kind::TabBar:
+    case Kind::ToolBox:
+      object = std::make_shared<TabbedObject>(widget, traits.kind, owner, Link::Container);
+      break;
+    default:
+      object =
+          std::make_shared<WidgetObject>(widget, traits.kind, owner, isMenu ? Link::Parent : Link::Container);
+      break;
+  }
+  controls_.push_back({object, owner.get()});
+  return object;
+}
+
+void FormWalk::takeToolBar(QToolBar& bar, const std::shared_ptr<ToolBarObject>& object) {
+  std::vector<HostRef> buttons;
+  for (QAction* const action : bar.actions()) {
+    auto* const widgetAction = qobject_cast<QWidgetAction*>(action);
+    if (widgetAction == nullptr) {
+      madeByToolBars_.insert(bar.widgetForAction(action));
+      continue;
+    }
+    auto* const button = qobject_cast<QToolButton*>(widgetAction->defaultWidget());
+    if (button == nullptr || button->parentWidget() != &bar) {
+      continue;
+    }
+    buttonWidgets_.insert(button);
+    auto buttonObject = std::make_shared<ButtonObject>(*button, nullptr);
+    buttons_.push_back({buttonObject, object});
+    takeMenus(*button, *buttonObject);
+    buttons.push_back(std::move(buttonObject));
+  }
+  object->setButtons(std::move(buttons));
+}
+
+void FormWalk::takeMenus(QToolButton& button, ButtonObject& object) {
+  std::vector<HostRef> entries;
+  for (QAction* const action : button.menu() != nullptr ? button.menu()->actions() : button.actions()) {
+    if (action == button.defaultAction() || isInternalAction(action) ||
+        ownerOf(*action) == Owner::OtherForm || !takenActions_.insert(action).second) {
+      continue;
+    }
+    auto entry = std::make_shared<ActionObject>(*action, ActionObject::Role::ButtonMenu, nullptr, Link::None);
+    menus_.push_back({entry, buttons_.size() - 1});
+    entries.push_back(std::move(entry));
+  }
+  object.setMenus(std::move(entries));
+}
+
+void FormWalk::dropTakenActions() {
+  if (takenActions_.empty()) {
+    return;
+  }
+  std::erase_if(controls_,
+                [this](const Control& control) { return takenActions_.count(control.object->live()) != 0; });
+}
+
+void FormWalk::number() {
+  std::vector<NamedObject> named;
+  named.reserve(controls_.size() + buttons_.size() + menus_.size());
+  for (const Control& control : controls_) {
+    named.push_back({control.object.get(), control.container});
+  }
+  for (const Button& button : buttons_) {
+    named.push_back({button.object.get(), static_cast<const HostObject*>(button.toolBar.get())});
+  }
+  for (const Menu& menu : menus_) {
+    named.push_back({menu.object.get(), static_cast<const HostObject*>(buttons_[menu.button].object.get())});
+  }
+  numberEqualNames(named);
+}
+
+HostRef FormWalk::find(const QObject& live) const {
+  for (const Control& control : controls_) {
+    if (control.object->live() == &live) {
+      return control.object;
+    }
+  }
+  for (const Button& button : buttons_) {
+    if (button.object->live() == &live) {
+      return owned(button);
+    }
+  }
+  for (const Menu& menu : menus_) {
+    if (menu.object->live() == &live) {
+      auto entry = std::make_shared<ActionObject>(static_cast<QAction&>(*menu.object->live()),
+                                                  ActionObject::Role::ButtonMenu,
+                                                  owned(buttons_[menu.button]), Link::Container);
+      entry->setIndex(menu.object->number());
+      return entry;
+    }
+  }
+  return nullptr;
+}
+
+// A button that holds its tool bar, for a caller that was not given the tool bar first.
+HostRef FormWalk::owned(const Button& button) const {
+  auto object = std::make_shared<ButtonObject>(static_cast<QWidget&>(*button.object->live()), button.toolBar);
+  object->setIndex(button.object->number());
+  std::vector<HostRef> entries;
+  for (const Menu& menu : menus_) {
+    if (buttons_[menu.button].object == button.object) {
+      entries.push_back(menu.object);
+    }
+  }
+  object->setMenus(std::move(entries));
+  return object;
+}
+
+}  // namespace kob::qt

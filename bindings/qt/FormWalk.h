@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include "ClassTraits.h"
+#include "LiveObject.h"
+
+#include <QAction>
+#include <QWidget>
+
+#include <memory>
+#include <unordered_set>
+#include <vector>
+
+class QMenu;
+class QToolBar;
+class QToolButton;
+
+namespace kob::qt {
+
+class ButtonObject;
+class ToolBarObject;
+
+/// One walk over a form in tree order: its controls as they are now, named and numbered. The time is linear
+/// in the number of objects below the form.
+class FormWalk {
+ public:
+  FormWalk(QWidget& form, HostRef formObject);
+
+  /// The members of the form's Controls.
+  std::vector<HostRef> controls() const;
+
+  /// The object of a control, of a tool bar's button or of an entry of such a button's menu, with its owners;
+  /// null for anything else.
+  HostRef find(const QObject& live) const;
+
+ private:
+  // A control with the position of its owner's path: the form, or another control.
+  struct Control {
+    std::shared_ptr<LiveObject> object;
+    const void* container;
+  };
+  struct Menu {
+    std::shared_ptr<LiveObject> object;
+    std::size_t button;
+  };
+  struct Button {
+    std::shared_ptr<ButtonObject> object;
+    std::shared_ptr<ToolBarObject> toolBar;
+  };
+  // Whose child an action is.
+  enum class Owner : std::uint8_t { Form, OtherForm, Nobody };
+  // What the widgets met next stand in.
+  struct Place {
+    QWidget* parent;
+    const ClassTraits* parentTraits;
+    HostRef container;
+    const ClassTraits* containerTraits;
+  };
+
+  void visitBelow(QWidget& parent, const Place& place);
+  void visitWidget(QWidget& widget, const Place& place);
+  void visitPlainObject(const QObject& object);
+  void visitPages(QWidget& parent, const Place& place);
+  void visitOwnedAction(QAction& action);
+  void visitShownActions(const QWidget& widget, const Place& place);
+  std::shared_ptr<LiveObject> expose(QWidget& widget, const ClassTraits& traits, const Place& place);
+  void takeToolBar(QToolBar& bar, const std::shared_ptr<ToolBarObject>& object);
+  void takeMenus(QToolButton& button, ButtonObject& object);
+  Owner ownerOf(const QAction& action);
+  HostRef owned(const Button& button) const;
+  void dropTakenActions();
+  void number();
+
+  QWidget& form_;
+  HostRef formObject_;
+  TraitsCache traits_;
+  std::vector<Control> controls_;
+  std::vector<Button> buttons_;
+  std::vector<Menu> menus_;
+  std::unordered_set<const QWidget*> madeByToolBars_;
+  std::unordered_set<const QWidget*> buttonWidgets_;
+  std::unordered_set<const QObject*> takenActions_;
+  std::unordered_set<const QObject*> shownOnly_;
+  std::unordered_set<const QWidget*> looseMenus_;
+};
+
+}  // namespace kob::qt

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include "LiveObject.h"
+
+#include "Naming.h"
+#include "QtValue.h"
+
+#include <kobtraductionqt/KOBTraductionQt.h>
+
+namespace kob::qt {
+
+namespace {
+
+constexpr char tagName[] = "tag";
+constexpr char indexName[] = "Index";
+
+}  // namespace
+
+LiveObject::LiveObject(QObject& object, HostRef owner, Link link)
+    : object_(&object), owner_(std::move(owner)), link_(link) {}
+
+std::optional<Value> LiveObject::get(Property property) {
+  QObject* const object = live();
+  if (object == nullptr) {
+    return std::nullopt;
+  }
+  switch (property) {
+    case Property::Name:
+      return Value(toText(ownName(*object)));
+    case Property::Index:
+      return index();
+    case Property::Tag: {
+      const std::optional<QVariant> tag = dynamicProperty(*object, tagName);
+      return tag ? fromVariant(*tag) : Value(Text());
+    }
+    case Property::Container:
+      return link_ == Link::Container ? std::optional<Value>(Value(owner_)) : std::nullopt;
+    case Property::Parent:
+      return link_ == Link::Parent ? std::optional<Value>(Value(owner_)) : std::nullopt;
+    default:
+      return read(property);
+  }
+}
+
+bool LiveObject::set(Property property, const Value& value) {
+  QObject* const object = live();
+  if (object == nullptr) {
+    return false;
+  }
+  return property == Property::Tag ? writeTag(*object, value) : write(property, value);
+}
+
+std::optional<Value> LiveObject::getIndexed(Property property, std::int32_t index) {
+  return live() == nullptr ? std::nullopt : readIndexed(property, index);
+}
+
+bool LiveObject::setIndexed(Property property, std::int32_t index, const Value& value) {
+  return live() != nullptr && writeIndexed(property, index, value);
+}
+
+const void* LiveObject::identity() const noexcept {
+  const QObject* const object = live();
+  return object != nullptr && !secondFace_ ? static_cast<const void*>(object) : this;
+}
+
+std::optional<Value> LiveObject::readIndexed(Property, std::int32_t) {
+  return std::nullopt;
+}
+
+bool LiveObject::writeIndexed(Property, std::int32_t, const Value&) {
+  return false;
+}
+
+std::optional<std::int32_t> LiveObject::indexOfApplication() const {
+  const std::optional<QVariant> set = dynamicProperty(*live(), indexName);
+  if (!set) {
+    return std::nullopt;
+  }
+  const std::optional<std::int32_t> number = fromVariant(*set).asLong();
+  return number && *number >= 0 ? number : std::nullopt;
+}
+
+Text LiveObject::nameInPath() const {
+  Text name = toText(ownName(*live()));
+  const std::optional<std::int32_t> number = index_ >= 0 ? index_ : indexOfApplication();
+  if (number) {
+    name += u'(' + decimal(*number) + u')';
+  }
+  return name;
+}
+
+std::optional<Value> LiveObject::index() const {
+  if (index_ >= 0) {
+    return Value(index_);
+  }
+  const std::optional<QVariant> set = dynamicProperty(*live(), indexName);
+  return set ? std::optional<Value>(fromVariant(*set)) : std::nullopt;
+}
+
+bool LiveObject::writeTag(QObject& object, const Value& value) {
+  const std::optional<QString> text = asQString(value);
+  if (!text) {
+    return false;
+  }
+  const std::optional<QVariant> present = dynamicProperty(object, tagName);
+  const QString presentText = present ? present->toString() : QString();
+  if (presentText == *text) {
+    return true;
+  }
+  // The engine blanks a tag and puts its text back: a tag that is not a text must not become one by that.
+  if (text->isEmpty()) {
+    blankedTag_ = *present;
+    object.setProperty(tagName, QString(u""_qs));
+  } else if (blankedTag_.isValid() && presentText.isEmpty() && blankedTag_.toString() == *text) {
+    object.setProperty(tagName, std::exchange(blankedTag_, QVariant()));
+  } else {
+    object.setProperty(tagName, *text);
+  }
+  return true;
+}
+
+}  // namespace kob::qt
