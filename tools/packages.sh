@@ -7,7 +7,7 @@ declare -A packages=(
   [screen]="xvfb xauth fonts-dejavu-core"
   [test]="libgtest-dev libgmock-dev librapidcheck-dev libicu-dev pkg-config python3 git unicode-data
           clang-14"
-  [lint]="clang-14 clang-format-14 clang-tidy-14 python3 git unicode-data"
+  [lint]="clang-14 clang-format-14 clang-tidy-14 shellcheck python3 git unicode-data"
   [bench]="libbenchmark-dev gettext"
 )
 

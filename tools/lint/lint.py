@@ -10,10 +10,12 @@ import time
 import firstline
 import format as layout
 import layers
+import scripts
 import tidy
 import uppercase
 
-RULES = {"format": layout, "layers": layers, "first-line": firstline, "uppercase": uppercase, "tidy": tidy}
+RULES = {"format": layout, "layers": layers, "first-line": firstline, "uppercase": uppercase,
+         "scripts": scripts, "tidy": tidy}
 SHOWN = 100
 
 
