@@ -164,7 +164,8 @@ KOBCellTraduction* CellList::walkTo(TextView name) const {
 }
 
 void CellList::insertSorted(std::shared_ptr<KOBCellTraduction> cell) {
-  insert(isSorted() ? upperBound(cell->nom()) : firstGreater(cell->nom()), std::move(cell));
+  const Place place = isSorted() ? upperBound(cell->nom()) : firstGreater(cell->nom());
+  insert(place, std::move(cell));
 }
 
 CellList::Place CellList::upperBound(TextView name) const {
