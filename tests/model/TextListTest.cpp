@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include "ModelVocabulary.h"
+
+#include <limits>
+
+namespace kob::test {
+namespace {
+
+constexpr std::int32_t noPositions[] = {0, 4, -1, std::numeric_limits<std::int32_t>::min(),
+                                        std::numeric_limits<std::int32_t>::max()};
+
+TEST(TextListOf, StartsEmpty) {
+  const TextList list;
+  EXPECT_EQ(list.Count(), 0);
+}
+
+TEST(TextListOf, AddsInsertsAndRemovesByPosition) {
+  const auto list = textList({u"a", u"b", u"c"});
+  list->Add(u"x", 1);
+  list->Add(u"y", 4);
+  EXPECT_EQ(texts(*list), (Texts{u"x", u"a", u"b", u"y", u"c"}));
+  list->Remove(1);
+  list->Remove(4);
+  EXPECT_EQ(texts(*list), (Texts{u"a", u"b", u"y"}));
+}
+
+TEST(TextListOf, APositionOutsideItIsAnInvalidIndexAndChangesNothing) {
+  const auto list = textList({u"a", u"b", u"c"});
+  for (const std::int32_t position : noPositions) {
+    EXPECT_EQ(failureOf([&] { static_cast<void>(list->Item(position)); }), FailureKind::InvalidIndex);
+    EXPECT_EQ(failureOf([&] { list->Add(u"x", position); }), FailureKind::InvalidIndex);
+    EXPECT_EQ(failureOf([&] { list->Remove(position); }), FailureKind::InvalidIndex);
+  }
+  EXPECT_EQ(texts(*list), (Texts{u"a", u"b", u"c"}));
+}
+
+TEST(TextListOf, OwnsWhatIsAddedByValue) {
+  TextList list;
+  Text text = u"a text that is long enough to be stored apart";
+  list.Add(text);
+  list.Add(text, 1);
+  text.assign(text.size(), u'#');
+  EXPECT_EQ(list.Item(1), u"a text that is long enough to be stored apart");
+  EXPECT_EQ(list.Item(2), u"a text that is long enough to be stored apart");
+}
+
+TEST(TextListOf, AViewStaysWhereItIs) {
+  const auto image = std::make_shared<const Text>(u"FichierEdition");
+  TextList list;
+  list.setImage(image);
+  list.AddView(TextView(*image).substr(0, 7));
+  list.AddView(TextView(*image).substr(7));
+  EXPECT_EQ(texts(list), (Texts{u"Fichier", u"Edition"}));
+  EXPECT_EQ(list.Item(1).data(), image->data());
+  EXPECT_EQ(list.Item(2).data(), image->data() + 7);
+}
+
+TEST(TextListOf, KeepsTheImageAliveAsLongAsItLives) {
+  auto image = std::make_shared<const Text>(u"a text that is long enough to be stored apart");
+  const std::weak_ptr<const Text> alive = image;
+  auto list = std::make_unique<TextList>();
+  list->setImage(image);
+  list->AddView(*image);
+  image.reset();
+  ASSERT_FALSE(alive.expired());
+  EXPECT_EQ(list->Item(1), u"a text that is long enough to be stored apart");
+  list.reset();
+  EXPECT_TRUE(alive.expired());
+}
+
+TEST(TextListOf, MixesViewsAndOwnTexts) {
+  const auto image = std::make_shared<const Text>(u"view");
+  TextList list;
+  list.setImage(image);
+  list.AddView(*image);
+  list.Add(u"own");
+  list.AddView(u"static");
+  list.Add(u"first", 1);
+  EXPECT_EQ(texts(list), (Texts{u"first", u"view", u"own", u"static"}));
+  list.Remove(2);
+  list.Remove(2);
+  EXPECT_EQ(texts(list), (Texts{u"first", u"static"}));
+}
+
+TEST(TextListOf, ReplacingAViewInAnEntryLeavesTheImageAlone) {
+  const std::int32_t before = Global_Util::NbLangues();
+  Global_Util::setNbLangues(2);
+  const auto image = std::make_shared<const Text>(u"view");
+  KOBTraductionObj made;
+  const auto list = std::make_shared<TextList>();
+  list->setImage(image);
+  list->AddView(*image);
+  list->AddView(*image);
+  made.setColTraduction(list);
+  made.ChangeTraduction(u"other", 2);
+  EXPECT_EQ(texts(*list), (Texts{u"view", u"other"}));
+  EXPECT_EQ(*image, u"view");
+  Global_Util::setNbLangues(before);
+}
+
+TEST(TextListOf, ATextOfTheListCanBeAddedToItAgain) {
+  TextList list;
+  list.Add(u"a text that is long enough to be stored apart");
+  for (int i = 0; i < 40; ++i) {
+    list.Add(list.Item(1));
+    list.Add(list.Item(list.Count()), 1);
+  }
+  EXPECT_EQ(texts(list), Texts(81, u"a text that is long enough to be stored apart"));
+}
+
+TEST(TextListOf, AnySequenceOfUnitsIsKept) {
+  const Text odd{char16_t{0xDC00}, u'\0', char16_t{0xD800}, char16_t{0xFFFF}, u'é'};
+  TextList list;
+  list.Add(odd);
+  list.Add(Text(1, u'\0'));
+  list.Add(u"");
+  EXPECT_EQ(texts(list), (Texts{odd, Text(1, u'\0'), u""}));
+}
+
+TEST(TextListOf, ALongTextIsKeptWhole) {
+  const Text text(1 << 20, u'x');
+  TextList list;
+  list.Add(text);
+  EXPECT_EQ(list.Item(1), text);
+}
+
+}  // namespace
+}  // namespace kob::test
