@@ -28,6 +28,8 @@ file(RELATIVE_PATH KOB_PC_TO_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 kob_install(KOBTraduction core KOBTraductionCoreTargets)
 kob_pkgconfig(kobtraduction)
 if(TARGET KOBTraductionQt)
+  # The two libraries stand side by side and find each other wherever that is.
+  set_target_properties(KOBTraductionQt PROPERTIES INSTALL_RPATH "$ORIGIN")
   kob_install(KOBTraductionQt qt KOBTraductionQtTargets)
   kob_pkgconfig(kobtraduction-qt)
 endif()
