@@ -70,44 +70,66 @@ TEST(HashUpper, TellsMostOtherTextsApart) {
   EXPECT_GE(distinct, 1990);
 }
 
-/// Short texts over few units, so that equal ones and prefixes are frequent.
-Text randomText(std::mt19937& random) {
-  static constexpr char16_t units[] = {u'a',
-                                       u'A',
-                                       u'b',
-                                       u'B',
-                                       u'é',
-                                       u'É',
-                                       u'ß',
-                                       u'ı',
-                                       u'i',
-                                       u'I',
-                                       u'\u1F80',
-                                       u'\u1F88',
-                                       char16_t{0xD800},
-                                       char16_t{0xDC00},
-                                       u'\uFFFF',
-                                       0};
-  Text text(random() % 4, u'\0');
+/// Texts over few units, so that equal ones and prefixes are frequent; among the units are the neighbours of
+/// the small letters, which must not be taken for letters.
+Text randomText(std::mt19937& random, std::size_t longest) {
+  static constexpr char16_t units[] = {u'a',      u'A', u'z',   u'Z',   u'`',   u'{', u'@',
+                                       u'[',      0x7F, 0x80,   u'é',   u'É',   u'ß', u'\u1F80',
+                                       u'\u1F88', u'ı', 0x017F, 0xD800, 0xFFFF, 0};
+  Text text(random() % (longest + 1), u'\0');
   for (char16_t& unit : text) {
     unit = units[random() % std::size(units)];
   }
   return text;
 }
 
-TEST(TextComparisons, AgreeWithTheUpperCasedTexts) {
+/// The text with some of its units in upper case, and now and then another unit.
+Text varied(std::mt19937& random, Text text) {
+  for (char16_t& unit : text) {
+    unit = random() % 2 == 0 ? upperUnit(unit) : unit;
+  }
+  if (!text.empty() && random() % 2 == 0) {
+    text[random() % text.size()] = static_cast<char16_t>(random() % 0x200);
+  }
+  return text;
+}
+
+void expectAgreement(const Text& a, const Text& b) {
+  const Text upperA = upper(a);
+  const Text upperB = upper(b);
+  ASSERT_EQ(equalUpper(a, b), upperA == upperB);
+  ASSERT_EQ(lessUpper(a, b), upperA < upperB);
+  ASSERT_EQ(hashUpper(a), hashUpper(upperA));
+  if (upperA == upperB) {
+    ASSERT_EQ(hashUpper(a), hashUpper(b));
+  }
+}
+
+TEST(TextComparisons, OfShortTextsAgreeWithTheUpperCasedTexts) {
   std::mt19937 random(20240501);
   for (int i = 0; i < 20000; ++i) {
-    const Text a = randomText(random);
-    const Text b = randomText(random);
-    const Text upperA = upper(a);
-    const Text upperB = upper(b);
-    ASSERT_EQ(equalUpper(a, b), upperA == upperB);
-    ASSERT_EQ(lessUpper(a, b), upperA < upperB);
-    ASSERT_EQ(hashUpper(a), hashUpper(upperA));
-    if (upperA == upperB) {
-      ASSERT_EQ(hashUpper(a), hashUpper(b));
-    }
+    expectAgreement(randomText(random, 3), randomText(random, 3));
+  }
+}
+
+TEST(TextComparisons, OfLongerTextsAgreeWithTheUpperCasedTexts) {
+  std::mt19937 random(20240502);
+  for (int i = 0; i < 20000; ++i) {
+    const Text text = randomText(random, 13);
+    expectAgreement(text, varied(random, text));
+  }
+}
+
+TEST(TextComparisons, EveryUnitMeetsItsUpperCaseAtEveryPlaceOfALongerText) {
+  for (std::uint32_t i = 0; i <= 0xFFFF; ++i) {
+    const auto unit = static_cast<char16_t>(i);
+    Text text = u"abcdefg";
+    text[i % text.size()] = unit;
+    ASSERT_TRUE(equalUpper(text, upper(text))) << std::hex << i;
+    ASSERT_EQ(hashUpper(text), hashUpper(upper(text))) << std::hex << i;
+    Text other = text;
+    other[i % text.size()] = static_cast<char16_t>(unit ^ 0x20);
+    ASSERT_EQ(equalUpper(text, other), upper(text) == upper(other)) << std::hex << i;
   }
 }
 

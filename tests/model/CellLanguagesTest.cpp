@@ -62,6 +62,15 @@ TEST_F(CellLanguages, LeftGrowsByAsMuchAsWidthWhateverItsOwnCount) {
   EXPECT_EQ(cell->ColLeft()->Count(), 7);
 }
 
+TEST_F(CellLanguages, LeftGrowsByAsMuchAsWidthEvenWhereItIsLonger) {
+  const CellRef cell = control(model.Racine(), u"ctl", {});
+  for (int i = 0; i < 6; ++i) {
+    cell->ColLeft()->Add(Factor());
+  }
+  model.setNbLangues(8);
+  EXPECT_EQ(cell->ColLeft()->Count(), 15);
+}
+
 TEST_F(CellLanguages, WhatIsAppendedIsTheSmallIntegerOneAndWhatWasThereStays) {
   const CellRef cell = control(model.Racine(), u"ctl", {});
   cell->ChangeWidth(2.5, 6);

@@ -114,6 +114,14 @@ TEST_F(WholeTreeLanguages, AFailureReachesTheCallerAndWhatWasDoneBeforeStays) {
   EXPECT_EQ(texts(last)[2], u"");
 }
 
+TEST_F(WholeTreeLanguages, ALanguageThatCannotBeChosenDoesNotEvenWalkADamagedTree) {
+  toolTip->setColTraduction(nullptr);
+  for (const std::int32_t langue : {0, 1, 7}) {
+    EXPECT_EQ(failureOf([&] { model.UpdateTestLangue(langue); }), std::nullopt);
+    EXPECT_EQ(failureOf([&] { model.ClearLangue(langue); }), std::nullopt);
+  }
+}
+
 TEST_F(WholeTreeLanguages, AListShorterThanTheLanguageStopsTheClearing) {
   toolTip->setColTraduction(textList({u"a", u"b"}));
   EXPECT_EQ(failureOf([&] { model.ClearLangue(4); }), FailureKind::InvalidIndex);
