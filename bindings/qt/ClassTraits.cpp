@@ -19,6 +19,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QSplitter>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
@@ -102,6 +103,7 @@ ClassTraits traitsOf(const QMetaObject& metaObject) {
   traits.mdiArea = is<QMdiArea>(metaObject);
   traits.menuBar = is<QMenuBar>(metaObject);
   traits.stack = is<QStackedWidget>(metaObject);
+  traits.splitter = is<QSplitter>(metaObject);
   traits.spinBox = is<QAbstractSpinBox>(metaObject);
   return traits;
 }

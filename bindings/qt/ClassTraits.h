@@ -43,6 +43,7 @@ struct ClassTraits {
   bool subWindow : 1 = false;
   bool menuBar : 1 = false;
   bool stack : 1 = false;
+  bool splitter : 1 = false;
   bool spinBox : 1 = false;
 };
 

@@ -10,6 +10,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QSplitter>
 #include <QStackedWidget>
 #include <QToolBar>
 #include <QToolBox>
@@ -44,13 +45,9 @@ std::vector<HostRef> FormWalk::controls() const {
 
 void FormWalk::visitBelow(QWidget& parent, const Place& place) {
   visitPages(parent, place);
-  const auto* const stack = place.parentTraits->stack ? static_cast<QStackedWidget*>(&parent) : nullptr;
   for (QObject* const child : parent.children()) {
     if (child->isWidgetType()) {
-      auto& widget = static_cast<QWidget&>(*child);
-      if (stack == nullptr || stack->indexOf(&widget) < 0) {
-        visitWidget(widget, place);
-      }
+      visitWidget(static_cast<QWidget&>(*child), place);
     } else if (auto* const action = qobject_cast<QAction*>(child)) {
       visitOwnedAction(*action);
     } else {
@@ -66,20 +63,39 @@ void FormWalk::visitPages(QWidget& parent, const Place& place) {
   if (place.parentTraits->stack) {
     const auto& stack = static_cast<QStackedWidget&>(parent);
     for (int i = 0; i < stack.count(); ++i) {
-      visitWidget(*stack.widget(i), place);
+      visitPage(stack.widget(i), place);
     }
+  } else if (place.parentTraits->kind == Kind::ToolBox) {
+    const auto& box = static_cast<QToolBox&>(parent);
+    for (int i = 0; i < box.count(); ++i) {
+      visitPage(box.widget(i), place);
+    }
+  } else if (place.parentTraits->splitter) {
+    const auto& splitter = static_cast<QSplitter&>(parent);
+    for (int i = 0; i < splitter.count(); ++i) {
+      visitPage(splitter.widget(i), place);
+    }
+  } else if (place.parentTraits->mdiArea) {
+    for (QMdiSubWindow* const subWindow : static_cast<QMdiArea&>(parent).subWindowList()) {
+      visitPage(subWindow, place);
+    }
+  }
+}
+
+void FormWalk::visitPage(QWidget* page, const Place& place) {
+  if (page != nullptr) {
+    visitWidget(*page, place);
+    met_.emplace(page, Met::Page);
   }
 }
 
 void FormWalk::visitWidget(QWidget& widget, const Place& place) {
   const ClassTraits& traits = traits_.of(widget.metaObject());
   Place inside{&widget, &traits, place.container, place.containerTraits};
-  const bool isButton = buttonWidgets_.count(&widget) != 0;
-  if (!isButton) {
+  const auto met = met_.find(&widget);
+  if (met == met_.end()) {
     const Exposure exposure =
-        madeByToolBars_.count(&widget) != 0
-            ? Exposure::Passed
-            : exposureOf({&widget, traits, place.parent, *place.parentTraits, *place.containerTraits});
+        exposureOf({&widget, traits, place.parent, *place.parentTraits, *place.containerTraits});
     if (exposure == Exposure::Closed) {
       return;
     }
@@ -94,6 +110,8 @@ void FormWalk::visitWidget(QWidget& widget, const Place& place) {
         inside.containerTraits = &traits;
       }
     }
+  } else if (met->second == Met::Page) {
+    return;
   }
   visitBelow(widget, inside);
 }
@@ -187,15 +205,11 @@ void FormWalk::takeToolBar(QToolBar& bar, const std::shared_ptr<ToolBarObject>& 
   std::vector<HostRef> buttons;
   for (QAction* const action : bar.actions()) {
     auto* const widgetAction = qobject_cast<QWidgetAction*>(action);
-    if (widgetAction == nullptr) {
-      madeByToolBars_.insert(bar.widgetForAction(action));
+    auto* const button =
+        widgetAction != nullptr ? qobject_cast<QToolButton*>(widgetAction->defaultWidget()) : nullptr;
+    if (button == nullptr || button->parentWidget() != &bar || !met_.emplace(button, Met::Button).second) {
       continue;
     }
-    auto* const button = qobject_cast<QToolButton*>(widgetAction->defaultWidget());
-    if (button == nullptr || button->parentWidget() != &bar) {
-      continue;
-    }
-    buttonWidgets_.insert(button);
     auto buttonObject = std::make_shared<ButtonObject>(*button, nullptr);
     buttons_.push_back({buttonObject, object});
     takeMenus(*button, *buttonObject);

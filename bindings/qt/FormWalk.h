@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -49,6 +50,8 @@ class FormWalk {
   };
   // Whose child an action is.
   enum class Owner : std::uint8_t { Form, OtherForm, Nobody };
+  // What the walk knows of a widget before it comes to it among its siblings.
+  enum class Met : std::uint8_t { Button, Page };
   // What the widgets met next stand in.
   struct Place {
     QWidget* parent;
@@ -61,6 +64,7 @@ class FormWalk {
   void visitWidget(QWidget& widget, const Place& place);
   void visitPlainObject(const QObject& object);
   void visitPages(QWidget& parent, const Place& place);
+  void visitPage(QWidget* page, const Place& place);
   void visitOwnedAction(QAction& action);
   void visitShownActions(const QWidget& widget, const Place& place);
   std::shared_ptr<LiveObject> expose(QWidget& widget, const ClassTraits& traits, const Place& place);
@@ -77,8 +81,7 @@ class FormWalk {
   std::vector<Control> controls_;
   std::vector<Button> buttons_;
   std::vector<Menu> menus_;
-  std::unordered_set<const QWidget*> madeByToolBars_;
-  std::unordered_set<const QWidget*> buttonWidgets_;
+  std::unordered_map<const QWidget*, Met> met_;
   std::unordered_set<const QObject*> takenActions_;
   std::unordered_set<const QObject*> shownOnly_;
   std::unordered_set<const QWidget*> looseMenus_;

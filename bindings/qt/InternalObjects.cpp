@@ -72,6 +72,12 @@ bool isInternalMenu(const WidgetPlace& place) {
   return false;
 }
 
+// A tool bar shows its actions by buttons of its own making. Buttons that were put there are not asked about.
+bool isMadeForAction(const QToolButton& button, QWidget& toolBar) {
+  const QAction* const action = button.defaultAction();
+  return action != nullptr && action->associatedObjects().contains(&toolBar);
+}
+
 // Parts of a widget that carry no mark of their own but the place where they stand.
 bool isPartOfParent(const WidgetPlace& place) {
   const Kind parentKind = place.parentTraits.kind;
@@ -101,6 +107,9 @@ bool isPartOfParent(const WidgetPlace& place) {
              !(place.parentTraits.mainWindow &&
                static_cast<QMainWindow*>(place.parent)->centralWidget() == place.widget);
     case Kind::ToolButton:
+      if (parentKind == Kind::ToolBar) {
+        return isMadeForAction(static_cast<QToolButton&>(*place.widget), *place.parent);
+      }
       return parentKind == Kind::TabBar && (place.widget->objectName() == u"ScrollLeftButton" ||
                                             place.widget->objectName() == u"ScrollRightButton");
     default:

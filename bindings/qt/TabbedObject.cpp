@@ -9,6 +9,8 @@
 #include <QTabWidget>
 #include <QToolBox>
 
+#include <type_traits>
+
 namespace kob::qt {
 
 namespace {
@@ -23,6 +25,43 @@ decltype(auto) withTabs(QWidget& widget, Kind kind, const Use& use) {
       return use(static_cast<QTabBar&>(widget));
     default:
       return use(static_cast<QToolBox&>(widget));
+  }
+}
+
+// A tool box has other words for the same.
+template <class Tabs>
+QString tabText(const Tabs& tabs, int tab) {
+  if constexpr (std::is_same_v<Tabs, QToolBox>) {
+    return tabs.itemText(tab);
+  } else {
+    return tabs.tabText(tab);
+  }
+}
+
+template <class Tabs>
+void setTabText(Tabs& tabs, int tab, const QString& text) {
+  if constexpr (std::is_same_v<Tabs, QToolBox>) {
+    tabs.setItemText(tab, text);
+  } else {
+    tabs.setTabText(tab, text);
+  }
+}
+
+template <class Tabs>
+QString tabToolTip(const Tabs& tabs, int tab) {
+  if constexpr (std::is_same_v<Tabs, QToolBox>) {
+    return tabs.itemToolTip(tab);
+  } else {
+    return tabs.tabToolTip(tab);
+  }
+}
+
+template <class Tabs>
+void setTabToolTip(Tabs& tabs, int tab, const QString& toolTip) {
+  if constexpr (std::is_same_v<Tabs, QToolBox>) {
+    tabs.setItemToolTip(tab, toolTip);
+  } else {
+    tabs.setTabToolTip(tab, toolTip);
   }
 }
 
@@ -48,43 +87,22 @@ bool TabbedObject::has(int tab) const {
 }
 
 QString TabbedObject::text(int tab) const {
-  if (kind() == Kind::ToolBox) {
-    return static_cast<QToolBox&>(widget()).itemText(tab);
-  }
-  return kind() == Kind::TabBar ? static_cast<QTabBar&>(widget()).tabText(tab)
-                                : static_cast<QTabWidget&>(widget()).tabText(tab);
+  return withTabs(widget(), kind(), [tab](auto& tabs) { return tabText(tabs, tab); });
 }
 
 // Tab bars lay all tabs out anew and scroll to the current one even when the text is the same.
 void TabbedObject::setText(int tab, const QString& text) {
-  if (this->text(tab) == text) {
-    return;
-  }
-  if (kind() == Kind::ToolBox) {
-    static_cast<QToolBox&>(widget()).setItemText(tab, text);
-  } else if (kind() == Kind::TabBar) {
-    static_cast<QTabBar&>(widget()).setTabText(tab, text);
-  } else {
-    static_cast<QTabWidget&>(widget()).setTabText(tab, text);
+  if (this->text(tab) != text) {
+    withTabs(widget(), kind(), [&](auto& tabs) { setTabText(tabs, tab, text); });
   }
 }
 
 QString TabbedObject::toolTip(int tab) const {
-  if (kind() == Kind::ToolBox) {
-    return static_cast<QToolBox&>(widget()).itemToolTip(tab);
-  }
-  return kind() == Kind::TabBar ? static_cast<QTabBar&>(widget()).tabToolTip(tab)
-                                : static_cast<QTabWidget&>(widget()).tabToolTip(tab);
+  return withTabs(widget(), kind(), [tab](auto& tabs) { return tabToolTip(tabs, tab); });
 }
 
 void TabbedObject::setToolTip(int tab, const QString& toolTip) {
-  if (kind() == Kind::ToolBox) {
-    static_cast<QToolBox&>(widget()).setItemToolTip(tab, toolTip);
-  } else if (kind() == Kind::TabBar) {
-    static_cast<QTabBar&>(widget()).setTabToolTip(tab, toolTip);
-  } else {
-    static_cast<QTabWidget&>(widget()).setTabToolTip(tab, toolTip);
-  }
+  withTabs(widget(), kind(), [&](auto& tabs) { setTabToolTip(tabs, tab, toolTip); });
 }
 
 std::optional<Value> TabbedObject::read(Property property) {
