@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <vector>
+
+namespace bench {
+
+/// One translated text for the catalogs of the other translation systems. UTF-8.
+struct Message {
+  std::string context;
+  std::string source;
+  std::string translation;
+};
+
+/// Compiles a Qt catalog (.qm) with lrelease into `folder`; the file's name, or "" when that tool is missing
+/// or fails.
+QString compileQtCatalog(const std::vector<Message>& messages, const QString& folder, const QString& name);
+
+/// Compiles a gettext catalog (.mo) with msgfmt as `folder`/LANGUAGE/LC_MESSAGES/`domain`.mo, the key being
+/// the source alone; whether that went well.
+bool compileGettextCatalog(const std::vector<Message>& messages, const QString& folder,
+                           const QString& language, const QString& domain);
+
+}  // namespace bench

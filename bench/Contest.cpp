@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include "Contest.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <ctime>
+#include <utility>
+
+namespace bench {
+
+namespace {
+
+/// The processor time of the process: what others do on the machine meanwhile does not count, which would
+/// otherwise hit whoever needs longer than a time slice more often than the others.
+double now() {
+  timespec time{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+}  // namespace
+
+const Series* Measured::find(const std::string& name) const {
+  const auto found = std::find_if(series.begin(), series.end(),
+                                  [&](const Series& candidate) { return candidate.name == name; });
+  return found != series.end() ? &*found : nullptr;
+}
+
+double median(std::vector<double> values) {
+  if (values.empty()) {
+    return 0;
+  }
+  std::sort(values.begin(), values.end());
+  const std::size_t middle = values.size() / 2;
+  return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
+}
+
+double pairedRatio(const Series& subject, const Series& reference) {
+  std::vector<double> ratios;
+  for (std::size_t i = 0; i < subject.seconds.size() && i < reference.seconds.size(); ++i) {
+    ratios.push_back(subject.seconds[i] / reference.seconds[i]);
+  }
+  return median(std::move(ratios));
+}
+
+Contest::Contest(std::string what, std::string size) {
+  measured_.what = std::move(what);
+  measured_.size = std::move(size);
+}
+
+void Contest::add(const std::string& name, std::int64_t operations, std::function<void(int)> run,
+                  std::function<void(int)> prepare) {
+  measured_.series.push_back({name, {}});
+  contenders_.push_back({static_cast<double>(operations), std::move(run), std::move(prepare)});
+}
+
+double Contest::round() {
+  double first = 0;
+  for (std::size_t i = 0; i < contenders_.size(); ++i) {
+    const double seconds = turn(contenders_[i]);
+    measured_.series[i].seconds.push_back(seconds / (contenders_[i].operations * passes_));
+    if (i == 0) {
+      first = seconds;
+    }
+  }
+  return first;
+}
+
+void Contest::warmUp() {
+  for (const Contender& contender : contenders_) {
+    turn(contender);
+  }
+}
+
+double Contest::turn(const Contender& contender) const {
+  double total = 0;
+  for (int pass = 0; pass < passes_; ++pass) {
+    if (contender.prepare) {
+      contender.prepare(pass);
+    }
+    const double start = now();
+    contender.run(pass);
+    total += now() - start;
+    if (settle_) {
+      settle_();
+    }
+  }
+  return total;
+}
+
+}  // namespace bench

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+/// What one contender needed for one operation, in seconds, round by round.
+struct Series {
+  std::string name;
+  std::vector<double> seconds;
+};
+
+/// What one contender must and should cost, as a multiple of what another one costs.
+struct Target {
+  std::string subject;
+  std::string reference;
+  double must;
+  /// 0: there is none.
+  double aim = 0;
+};
+
+/// The outcome of a contest. The first series is the component's own.
+struct Measured {
+  std::string what;
+  std::string size;
+  std::vector<Series> series;
+  std::vector<Target> targets;
+
+  const Series* find(const std::string& name) const;
+};
+
+double median(std::vector<double> values);
+
+/// The median of the ratios of two series, taken round by round: what slows the machine down for a while
+/// slows both down.
+double pairedRatio(const Series& subject, const Series& reference);
+
+/// Several ways of doing the same work, timed in turn in one process: A B C, A B C, ...
+class Contest {
+ public:
+  Contest(std::string what, std::string size);
+
+  /// Each round runs a contender this many times, telling it the number of the pass; 1 unless it is set.
+  void setPasses(int passes) { passes_ = passes; }
+  /// Called after every pass, and never timed.
+  void setSettle(std::function<void()> settle) { settle_ = std::move(settle); }
+
+  /// `run` does `operations` operations. `prepare` is called before each pass, and never timed.
+  void add(const std::string& name, std::int64_t operations, std::function<void(int pass)> run,
+           std::function<void(int pass)> prepare = {});
+  void expect(Target target) { measured_.targets.push_back(std::move(target)); }
+
+  /// One turn of everybody; the seconds that the first one needed.
+  double round();
+  /// A round that does not count.
+  void warmUp();
+  const Measured& measured() const noexcept { return measured_; }
+
+ private:
+  struct Contender {
+    double operations;
+    std::function<void(int)> run;
+    std::function<void(int)> prepare;
+  };
+
+  double turn(const Contender& contender) const;
+
+  Measured measured_;
+  std::vector<Contender> contenders_;
+  std::function<void()> settle_;
+  int passes_ = 1;
+};
+
+}  // namespace bench
