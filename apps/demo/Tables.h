@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <QHeaderView>
+#include <QStringList>
+#include <QTableWidget>
+
+namespace kob::demo {
+
+/// A list of rows to choose from; the column `wide` takes the room that the others leave.
+inline QTableWidget* rowTable(const char* name, int columns, int wide) {
+  auto* const table = new QTableWidget(0, columns);
+  table->setObjectName(QLatin1String(name));
+  table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table->setSelectionMode(QAbstractItemView::SingleSelection);
+  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table->setAlternatingRowColors(true);
+  table->setShowGrid(false);
+  table->verticalHeader()->hide();
+  table->verticalHeader()->setDefaultSectionSize(27);
+  table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  table->horizontalHeader()->setSectionResizeMode(wide, QHeaderView::Stretch);
+  table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  table->horizontalHeader()->setHighlightSections(false);
+  return table;
+}
+
+inline void setRow(QTableWidget& table, int row, const QStringList& texts) {
+  for (int column = 0; column < texts.size(); ++column) {
+    if (QTableWidgetItem* const item = table.item(row, column)) {
+      item->setText(texts[column]);
+    } else {
+      table.setItem(row, column, new QTableWidgetItem(texts[column]));
+    }
+  }
+}
+
+}  // namespace kob::demo
