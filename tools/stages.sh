@@ -97,7 +97,7 @@ stage_demo() {
 }
 
 stage_fidelity() {
-  local corpus="$root/../shared/corpus/qt" sample=(--sample 3)
+  local corpus="$root/../shared/corpus/qt" sample=(--sample 10)
   [ -d "$corpus" ] || { stage_skip "there are no applications in ../shared/corpus/qt"; return; }
   [ "$whole" = no ] || sample=()
   build_preset release kobfidelity
@@ -153,6 +153,8 @@ run_stages() {
   for stage in "${stages[@]}"; do
     declare -F "stage_${stage//-/_}" >/dev/null || { echo "./dev test: there is no stage '$stage'" >&2; exit 2; }
   done
+  # What was compiled in one clone of the tree need not be compiled again in the next.
+  export CCACHE_BASEDIR="$root" CCACHE_NOHASHDIR=1
   # Properties try more cases in a whole run.
   [ "$whole" = no ] || export RC_PARAMS="max_success=2000"
   mkdir -p "$results"
