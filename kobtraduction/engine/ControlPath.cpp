@@ -46,7 +46,7 @@ Text ControlPaths::containerPath(const HostRef& container, Property link, KnownP
     return found->second.path;
   }
   Text path = module_;
-  std::vector<HostRef> chain;
+  std::vector<Text> names;
   bool isWhole = true;
   MetBefore metBefore;
   for (HostRef current = container; current != nullptr;) {
@@ -58,14 +58,14 @@ Text ControlPaths::containerPath(const HostRef& container, Property link, KnownP
       isWhole = false;
       break;
     }
-    chain.push_back(current);
+    names.push_back(elementName(current));
     HostRef next;
     skip(next, readObject(current, link));
     current = std::move(next);
   }
-  for (auto outer = chain.rbegin(); outer != chain.rend(); ++outer) {
+  for (auto outer = names.rbegin(); outer != names.rend(); ++outer) {
     path += u'\\';
-    path += elementName(*outer);
+    path += *outer;
   }
   if (isWhole && path.size() <= longestKept) {
     known.emplace(container->identity(), Known{container, path});

@@ -2,6 +2,7 @@
 #include <kobtraduction/engine/HostObject.h>
 #include <kobtraduction/engine/Value.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -19,9 +20,16 @@ Text widen(const char* first, const char* last) {
   return {first, last};
 }
 
+/// As automation hosts write a double: at most 15 digits, and "E+15" only when those do not reach the point.
 Text numberText(double number) {
+  if (number == 0) {
+    return u"0";
+  }
+  constexpr int mostDigits = 15;
   char digits[32];
-  const auto end = std::to_chars(std::begin(digits), std::end(digits), number);
+  const auto end =
+      std::to_chars(std::begin(digits), std::end(digits), number, std::chars_format::general, mostDigits);
+  std::replace(std::begin(digits), end.ptr, 'e', 'E');
   return widen(digits, end.ptr);
 }
 

@@ -35,7 +35,7 @@ class KOB_EXPORT Value {
   // Conversions follow the rules of automation hosts; a value that does not convert gives an empty result,
   // which is a failed operation. Nothing and objects convert to nothing but themselves.
 
-  /// A number becomes its shortest decimal form, a Boolean "True" or "False".
+  /// A number becomes its decimal form of at most 15 digits, a Boolean "True" or "False".
   std::optional<Text> asText() const&;
   std::optional<Text> asText() &&;
   /// A Boolean becomes -1 or 0; a text converts when all of it reads as a number, blanks around it aside.
