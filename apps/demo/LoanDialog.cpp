@@ -31,7 +31,7 @@ Widget* at(const QRect& place, Widget* widget) {
 LoanDialog::LoanDialog(const SampleData& sample, QWidget* parent) : QDialog(parent), tools_(sample.tools) {
   setObjectName(u"DlgPret"_s);
   setWindowTitle(u"Nouveau prêt"_s);
-  resize(430, 420);
+  resize(430, 436);
   at({16, 12, 398, 36},
      part<QLabel>("lblIntro", u"Choisissez l’adhérent et l’outil, puis convenez de la date de retour."_s, {},
                   this))
@@ -49,12 +49,16 @@ void LoanDialog::makeFields(const SampleData& sample) {
   const QRect label(labelLeft, 60, labelWidth, 28);
   const QRect field(fieldLeft, 60, fieldWidth, 28);
   at(label, part<QLabel>("lblAdherent", u"Adhérent"_s, {}, this));
+  // A field without a text of its own is recorded because of its tool tip, and only what is recorded can be
+  // moved.
   members_ = at(field, part<QComboBox>("cboAdherent", this));
+  members_->setToolTip(u"La personne qui emporte l’outil"_s);
   for (const Member& person : sample.members) {
     members_->addItem(person.name);
   }
   at(label.translated(0, 36), part<QLabel>("lblOutil", u"Outil"_s, {}, this));
   toolBox_ = at(field.translated(0, 36), part<QComboBox>("cboOutil", this));
+  toolBox_->setToolTip(u"Numéro d’inventaire et nom de l’outil"_s);
   for (const Tool& tool : tools_) {
     toolBox_->addItem(tool.number + u" – "_s + tool.name);
   }
@@ -62,6 +66,8 @@ void LoanDialog::makeFields(const SampleData& sample) {
   lent_ = at(QRect(fieldLeft, 132, 120, 28), part<QDateEdit>("datSortie", this));
   at(label.translated(0, 108), part<QLabel>("lblRetour", u"À rendre le"_s, {}, this));
   due_ = at(QRect(fieldLeft, 168, 120, 28), part<QDateEdit>("datRetour", this));
+  lent_->setToolTip(u"Le jour où l’outil quitte l’atelier"_s);
+  due_->setToolTip(u"Suit la durée choisie plus bas"_s);
   for (QDateEdit* const date : {lent_, due_}) {
     date->setDisplayFormat(QLatin1String(dateFormat));
     date->setCalendarPopup(true);
@@ -85,17 +91,17 @@ void LoanDialog::makeDuration() {
     durations_->addButton(at(places[i], member<QRadioButton>("optDuree", i, names[i], box)), i);
   }
   connect(durations_, &QButtonGroup::idClicked, this, &LoanDialog::chooseDuration);
-  at({16, 350, 280, 24}, part<QCheckBox>("chkRappel", u"Rappeler la date à l’emprunteur la veille"_s,
+  at({16, 352, 300, 24}, part<QCheckBox>("chkRappel", u"Rappeler la date à l’emprunteur la veille"_s,
                                          u"Par un courriel, si l’adhérent en a donné un"_s, this))
       ->setChecked(true);
 }
 
 void LoanDialog::makeButtons() {
   auto* const print =
-      at({16, 380, 136, 30}, part<QPushButton>("cmdFiche", u"Imprimer la fiche"_s,
+      at({16, 390, 136, 30}, part<QPushButton>("cmdFiche", u"Imprimer la fiche"_s,
                                                u"Un exemplaire à signer, un à emporter"_s, this));
-  auto* const cancel = at({224, 380, 88, 30}, part<QPushButton>("cmdAnnuler", u"Annuler"_s, {}, this));
-  auto* const save = at({318, 380, 96, 30}, part<QPushButton>("cmdEnregistrer", u"Enregistrer"_s, {}, this));
+  auto* const cancel = at({218, 390, 94, 30}, part<QPushButton>("cmdAnnuler", u"Annuler"_s, {}, this));
+  auto* const save = at({318, 390, 96, 30}, part<QPushButton>("cmdEnregistrer", u"Enregistrer"_s, {}, this));
   print->setAutoDefault(false);
   save->setDefault(true);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);

@@ -10,6 +10,7 @@
 #include "ToolsPage.h"
 
 #include <QActionGroup>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -148,6 +149,8 @@ void MainWindow::makeToolBar() {
   bar_ = part<QToolBar>("tbPrincipale", this);
   bar_->setWindowTitle(u"Barre d’outils"_s);
   bar_->setMovable(false);
+  bar_->setContentsMargins(6, 3, 6, 3);
+  bar_->layout()->setSpacing(6);
   bar_->setIconSize({20, 20});
   bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   addToolBar(bar_);
@@ -200,6 +203,7 @@ void MainWindow::makeToolBar() {
 void MainWindow::makeStatus() {
   statusBar()->setObjectName(u"etat"_s);
   summary_ = dataLabel("lblResume");
+  summary_->setIndent(8);
   statusBar()->addWidget(summary_, 1);
   // The tool tip is a place on the disk.
   auto* const backup = part<QLabel>("lblSauvegarde", u"Sauvegarde à jour"_s, u"sauvegardes/2024-05-15.zip"_s);
@@ -209,6 +213,10 @@ void MainWindow::makeStatus() {
   auto* const association =
       part<QLabel>("lblAssociation", u"L’Établi du canal"_s, u"Ouvert le mercredi soir et le samedi matin"_s);
   setTag(*association, "[T]");
+  association->setIndent(16);
+  QFont bold = association->font();
+  bold.setBold(true);
+  association->setFont(bold);
   statusBar()->addPermanentWidget(association);
 }
 

@@ -22,6 +22,10 @@ inline QTableWidget* rowTable(const char* name, int columns, int wide) {
   table->horizontalHeader()->setSectionResizeMode(wide, QHeaderView::Stretch);
   table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   table->horizontalHeader()->setHighlightSections(false);
+  table->setStyleSheet(
+      QStringLiteral("QTableView::item { padding: 0 8px; }"
+                     "QHeaderView::section { padding: 5px 8px; border: none; font-weight: bold;"
+                     " border-bottom: 1px solid #c9c6bd; background: #efece5; }"));
   return table;
 }
 

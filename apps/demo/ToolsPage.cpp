@@ -51,6 +51,7 @@ QWidget* ToolsPage::searchBox() {
   search_->setMinimumWidth(150);
   categories_ = part<QComboBox>("cboCategorie");
   auto* const clear = part<QPushButton>("cmdEffacer", u"Effacer"_s, u"Afficher de nouveau tous les outils"_s);
+  clear->setMinimumWidth(108);
   auto* const row = new QHBoxLayout(box);
   row->addWidget(part<QLabel>("lblMotCle", u"Mot-clé"_s));
   row->addWidget(search_, 1);
