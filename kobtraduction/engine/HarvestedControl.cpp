@@ -17,12 +17,15 @@ using CellRef = std::shared_ptr<KOBCellTraduction>;
 /// current is put back. Every read and write is in handler mode.
 class TabHarvest {
  public:
-  TabHarvest(const HostRef& control, HarvestedControl harvested, const KeptTexts& kept, StepMarker& step)
-      : control_(control), harvested_(std::move(harvested)), kept_(kept), step_(step) {}
+  TabHarvest(const HostRef& control, HarvestedControl harvested, const KeptTexts& kept, HarvestScope scope,
+             StepMarker& step)
+      : control_(control), harvested_(std::move(harvested)), kept_(kept), scope_(scope), step_(step) {}
 
   /// `parent` is the cell of the container, `known` the control's cell or none.
   void record(const CellRef& parent, CellRef known) {
-    step_ = 451;
+    if (scope_ == HarvestScope::Form) {
+      step_ = 451;
+    }
     last_ = must(readLong(control_, Property::Tabs)) - 1;
     const std::int16_t saved = must(readInteger(control_, Property::Tab));
     const bool hasContext = !harvested_.context.empty();
@@ -127,6 +130,7 @@ class TabHarvest {
   const HostRef& control_;
   HarvestedControl harvested_;
   const KeptTexts& kept_;
+  HarvestScope scope_;
   StepMarker& step_;
   std::int32_t last_ = -1;
   Text caption_;
@@ -163,7 +167,8 @@ HarvestedControl readControl(const HostRef& control, KeptTexts& kept) {
 }
 
 void recordControl(const HostRef& control, HarvestedControl harvested, const std::vector<Text>& chain,
-                   std::shared_ptr<KOBCellTraduction> top, const KeptTexts& kept, StepMarker& step) {
+                   std::shared_ptr<KOBCellTraduction> top, const KeptTexts& kept, HarvestScope scope,
+                   StepMarker& step) {
   step = 43;
   CellRef cell = std::move(top);
   // Below a container that had to be created nothing can exist: no more looking.
@@ -183,7 +188,7 @@ void recordControl(const HostRef& control, HarvestedControl harvested, const std
   double tabs = 0;
   skip(tabs, readDouble(control, Property::Tabs));
   if (tabs > 0) {
-    TabHarvest(control, std::move(harvested), kept, step).record(cell, std::move(known));
+    TabHarvest(control, std::move(harvested), kept, scope, step).record(cell, std::move(known));
     return;
   }
   step = 452;

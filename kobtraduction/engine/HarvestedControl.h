@@ -41,10 +41,14 @@ std::int32_t positionIndicator(std::optional<double> value) noexcept;
 /// Reads a control, in skip mode; a marker of its tag sets `kept`.
 HarvestedControl readControl(const HostRef& control, KeptTexts& kept);
 
+/// Whether a control is harvested with its form or alone: alone, the steps of the form's pass are not told.
+enum class HarvestScope : std::uint8_t { Form, Control };
+
 /// Records a control below the cell that stands for the root of `chain` (its containers' names, outermost
 /// first), creating the container cells that are missing. Fails like a procedure in handler mode, with `step`
 /// telling where.
 void recordControl(const HostRef& control, HarvestedControl harvested, const std::vector<Text>& chain,
-                   std::shared_ptr<KOBCellTraduction> top, const KeptTexts& kept, StepMarker& step);
+                   std::shared_ptr<KOBCellTraduction> top, const KeptTexts& kept, HarvestScope scope,
+                   StepMarker& step);
 
 }  // namespace kob

@@ -184,7 +184,7 @@ void harvestForm(const KOBModeleTraduction& model, const HostRef& form, TextView
     if (!chain) {
       continue;
     }
-    recordControl(control, std::move(harvested), *chain, top, kept, step);
+    recordControl(control, std::move(harvested), *chain, top, kept, HarvestScope::Form, step);
     step = 46;
   }
 }
@@ -199,7 +199,7 @@ void harvestControl(const KOBModeleTraduction& model, const HostRef& control, Te
     return;
   }
   const Chain chain = wholeChain(control, step);
-  recordControl(control, std::move(harvested), chain, top, kept, step);
+  recordControl(control, std::move(harvested), chain, top, kept, HarvestScope::Control, step);
 }
 
 }  // namespace
