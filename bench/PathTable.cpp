@@ -27,7 +27,7 @@ const void* PathTable::find(kob::TextView path) const noexcept {
   const std::size_t mask = slots_.size() - 1;
   for (std::size_t i = hash & mask; slots_[i].value != nullptr; i = (i + 1) & mask) {
     const Slot& slot = slots_[i];
-    if (slot.hash == hash && kob::equalUpper({paths_.data() + slot.start, slot.length}, path)) {
+    if (slot.hash == hash && kob::equalToUpper(path, {paths_.data() + slot.start, slot.length})) {
       return slot.value;
     }
   }

@@ -75,6 +75,21 @@ bool equalUpper(TextView a, TextView b) noexcept {
   return upperTail(a.data() + whole, a.size() - whole) == upperTail(b.data() + whole, b.size() - whole);
 }
 
+bool equalToUpper(TextView text, TextView uppered) noexcept {
+  if (text.size() != uppered.size()) {
+    return false;
+  }
+  const std::size_t whole = text.size() - text.size() % unitsPerWord;
+  for (std::size_t i = 0; i < whole; i += unitsPerWord) {
+    if (upperWord(text.data() + i) != loadWord(uppered.data() + i)) {
+      return false;
+    }
+  }
+  return std::equal(text.begin() + static_cast<std::ptrdiff_t>(whole), text.end(),
+                    uppered.begin() + static_cast<std::ptrdiff_t>(whole),
+                    [](char16_t own, char16_t other) { return upperUnit(own) == other; });
+}
+
 bool lessUpper(TextView a, TextView b) noexcept {
   return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
                                       [](char16_t x, char16_t y) { return upperUnit(x) < upperUnit(y); });

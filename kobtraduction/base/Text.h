@@ -35,6 +35,9 @@ KOB_EXPORT Text upper(TextView text);
 /// Whether both texts read the same once upper-cased.
 KOB_EXPORT bool equalUpper(TextView a, TextView b) noexcept;
 
+/// Whether the upper-cased `text` is `uppered`, which is upper-cased already.
+KOB_EXPORT bool equalToUpper(TextView text, TextView uppered) noexcept;
+
 /// Whether a comes before b once both are upper-cased: ordinal by code unit, a prefix before the longer text.
 KOB_EXPORT bool lessUpper(TextView a, TextView b) noexcept;
 

@@ -68,7 +68,7 @@ void traduitDialog(const KOBModeleTraduction& model, const HostRef& form, std::i
       continue;
     }
     write(control, Property::Tag, TextView());
-    const Text path = paths.pathOf(control);
+    const Text& path = paths.pathOf(control);
     write(control, Property::Tag, tag);
     // Character for character, so that Frame10 passes for Frame1.
     if (onlyContainer != nullptr && !TextView(path).starts_with(wantedStart)) {

@@ -30,10 +30,10 @@ struct ControlTexts {
   void readFrom(const KOBCellTraduction& cell, std::int32_t langue) {
     for (const auto& entry : mustBeSet(cell.ColTraduction())) {
       const TextView name = mustBeSet(entry).nom();
-      if (equalUpper(name, u"CAPTION")) {
+      if (equalToUpper(name, u"CAPTION")) {
         hasCaption = true;
         caption = textOf(*entry, langue);
-      } else if (equalUpper(name, u"TOOLTIP")) {
+      } else if (equalToUpper(name, u"TOOLTIP")) {
         hasToolTip = true;
         toolTip = textOf(*entry, langue);
       }

@@ -19,11 +19,19 @@ inline void appendIndex(Text& name, const HostRef& object) {
   }
 }
 
-/// The name by which an object stands in a path: its "Name", "" when that cannot be read, with its index.
+/// Appends the name by which an object stands in a path: its "Name", "" when that cannot be read, with its
+/// index.
+inline void appendElementName(Text& path, const HostRef& object) {
+  if (const std::optional<Text> name = readText(object, Property::Name)) {
+    path += *name;
+  }
+  appendIndex(path, object);
+}
+
+/// That name alone.
 inline Text elementName(const HostRef& object) {
   Text name;
-  skip(name, readText(object, Property::Name));
-  appendIndex(name, object);
+  appendElementName(name, object);
   return name;
 }
 

@@ -18,7 +18,7 @@ constexpr std::size_t longestKept = 4096;
 
 }  // namespace
 
-Text ControlPaths::pathOf(const HostRef& control) {
+const Text& ControlPaths::pathOf(const HostRef& control) {
   // Which link leads to the form is decided once, by the control itself, for the whole chain.
   HostRef container;
   skip(container, readObject(control, Property::Container));
@@ -26,32 +26,37 @@ Text ControlPaths::pathOf(const HostRef& control) {
   if (!followsContainer) {
     skip(container, readObject(control, Property::Parent));
   }
-  Text path = container == nullptr ? module_
-              : followsContainer   ? containerPath(container, Property::Container, byContainer_)
-                                   : containerPath(container, Property::Parent, byParent_);
-  path += u'\\';
-  path += elementName(control);
+  if (container == nullptr) {
+    path_ = module_;
+  } else if (followsContainer) {
+    startWith(container, Property::Container, byContainer_);
+  } else {
+    startWith(container, Property::Parent, byParent_);
+  }
+  path_ += u'\\';
+  appendElementName(path_, control);
   Text tag;
   skip(tag, readText(control, Property::Tag));
   const TextView context = readMarkers(tag).context;
   if (!context.empty()) {
-    path += u'\\';
-    path += context;
+    path_ += u'\\';
+    path_ += context;
   }
-  return path;
+  return path_;
 }
 
-Text ControlPaths::containerPath(const HostRef& container, Property link, KnownPaths& known) const {
+void ControlPaths::startWith(const HostRef& container, Property link, KnownPaths& known) {
   if (const auto found = known.find(container->identity()); found != known.end()) {
-    return found->second.path;
+    path_ = found->second.path;
+    return;
   }
-  Text path = module_;
+  path_ = module_;
   std::vector<Text> names;
   bool isWhole = true;
   MetBefore metBefore;
   for (HostRef current = container; current != nullptr;) {
     if (const auto found = known.find(current->identity()); found != known.end()) {
-      path = found->second.path;
+      path_ = found->second.path;
       break;
     }
     if (metBefore(current->identity())) {
@@ -64,13 +69,12 @@ Text ControlPaths::containerPath(const HostRef& container, Property link, KnownP
     current = std::move(next);
   }
   for (auto outer = names.rbegin(); outer != names.rend(); ++outer) {
-    path += u'\\';
-    path += *outer;
+    path_ += u'\\';
+    path_ += *outer;
   }
-  if (isWhole && path.size() <= longestKept) {
-    known.emplace(container->identity(), Known{container, path});
+  if (isWhole && path_.size() <= longestKept) {
+    known.emplace(container->identity(), Known{container, path_});
   }
-  return path;
 }
 
 Text KOBModeleTraduction::GetPath(const HostRef& Ctrl, TextView module) const {

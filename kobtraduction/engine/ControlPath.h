@@ -14,8 +14,9 @@ class ControlPaths {
  public:
   explicit ControlPaths(TextView module) : module_(module) {}
 
-  /// The path of a form, a control or a control record; never fails.
-  Text pathOf(const HostRef& control);
+  /// The path of a form, a control or a control record; never fails. It lives until the next one is asked
+  /// for.
+  const Text& pathOf(const HostRef& control);
 
  private:
   struct Known {
@@ -25,9 +26,12 @@ class ControlPaths {
   };
   using KnownPaths = std::unordered_map<const void*, Known>;
 
-  Text containerPath(const HostRef& container, Property link, KnownPaths& known) const;
+  /// Makes path_ the path of a container.
+  void startWith(const HostRef& container, Property link, KnownPaths& known);
 
   Text module_;
+  /// One buffer for all paths: most calls need no memory of their own.
+  Text path_;
   KnownPaths byContainer_;
   KnownPaths byParent_;
 };

@@ -2,6 +2,7 @@
 #include <kobtraduction/base/Failure.h>
 #include <kobtraduction/model/CellList.h>
 #include <kobtraduction/model/KOBCellTraduction.h>
+#include <kobtraduction/model/PathMemo.h>
 
 #include <algorithm>
 #include <utility>
@@ -66,6 +67,7 @@ void CellList::Add(std::shared_ptr<KOBCellTraduction> cell, std::int32_t before)
 
 void CellList::Remove(std::int32_t position) {
   const Place place = locate(position);
+  treeChanged();
   Chunk& chunk = *chunks_[place.chunk];
   // Kept until the list is whole again: releasing the last reference may run a host's code.
   const std::shared_ptr<KOBCellTraduction> cell = std::move(chunk[place.offset]);
@@ -91,6 +93,7 @@ CellList::Place CellList::endPlace() const noexcept {
 }
 
 void CellList::insert(Place place, std::shared_ptr<KOBCellTraduction> cell) {
+  treeChanged();
   if (chunks_.empty()) {
     chunks_.push_back(std::make_unique<Chunk>());
   }
@@ -236,6 +239,7 @@ bool CellList::keepsOrder(Place place) const {
 }
 
 void CellList::beforeRename(KOBCellTraduction& cell) noexcept {
+  treeChanged();
   order_ = Order::Unknown;
   if (!index_.empty()) {
     indexRemove(cell);

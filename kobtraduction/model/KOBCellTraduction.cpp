@@ -4,6 +4,7 @@
 #include <kobtraduction/component/Global_Util.h>
 #include <kobtraduction/model/CellWalk.h>
 #include <kobtraduction/model/KOBCellTraduction.h>
+#include <kobtraduction/model/PathMemo.h>
 
 #include <algorithm>
 #include <utility>
@@ -143,10 +144,16 @@ void KOBCellTraduction::removeHolder(CellList& list) noexcept {
   moreHolders_->pop_back();
 }
 
+void KOBCellTraduction::setColCell(std::shared_ptr<CellList> children) noexcept {
+  treeChanged();
+  colCell_ = std::move(children);
+}
+
 void KOBCellTraduction::setTypeCell(std::int32_t kind) {
   if ((kind != 1 && kind != 2) || kind == typeCell_) {
     return;
   }
+  treeChanged();
   typeCell_ = kind;
   colCell_ = kind == 1 ? std::make_shared<CellList>() : nullptr;
 }

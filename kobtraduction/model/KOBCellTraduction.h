@@ -55,7 +55,7 @@ class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCell
   void setparentcell(const std::shared_ptr<KOBCellTraduction>& parent) noexcept { parentCell_ = parent; }
 
   const std::shared_ptr<CellList>& ColCell() const noexcept { return colCell_; }
-  void setColCell(std::shared_ptr<CellList> children) noexcept { colCell_ = std::move(children); }
+  void setColCell(std::shared_ptr<CellList> children) noexcept;
   const std::shared_ptr<KOBTraductionObj>& Traduction() const noexcept { return traduction_; }
   void setTraduction(std::shared_ptr<KOBTraductionObj> entry) noexcept { traduction_ = std::move(entry); }
   const std::shared_ptr<EntryList>& ColTraduction() const noexcept { return colTraduction_; }

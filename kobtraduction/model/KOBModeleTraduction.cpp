@@ -2,6 +2,7 @@
 #include <kobtraduction/base/Failure.h>
 #include <kobtraduction/component/Global_Util.h>
 #include <kobtraduction/model/KOBModeleTraduction.h>
+#include <kobtraduction/model/PathMemo.h>
 
 namespace kob {
 
@@ -12,7 +13,8 @@ constexpr std::int32_t initialLanguages = 6;
 
 }  // namespace
 
-KOBModeleTraduction::KOBModeleTraduction() : racine_(KOBCellTraduction::createNode()) {
+KOBModeleTraduction::KOBModeleTraduction()
+    : racine_(KOBCellTraduction::createNode()), known_(std::make_unique<PathMemo>()) {
   racine_->setnom(u"RACINE");
   setNbLangues(initialLanguages);
 }
@@ -44,6 +46,17 @@ void KOBModeleTraduction::ClearLangue(std::int32_t langue) {
 }
 
 KOBCellTraduction* KOBModeleTraduction::findCell(TextView path) const {
+  if (KOBCellTraduction* const known = known_->find(path)) {
+    return known;
+  }
+  KOBCellTraduction* const cell = walkTo(path);
+  if (cell != nullptr) {
+    known_->remember(path, *cell);
+  }
+  return cell;
+}
+
+KOBCellTraduction* KOBModeleTraduction::walkTo(TextView path) const {
   KOBCellTraduction* cell = racine_.get();
   while (cell != nullptr) {
     const std::size_t start = path.find_first_not_of(u'\\');

@@ -11,6 +11,8 @@
 
 namespace kob {
 
+class PathMemo;
+
 /// A translation model: the tree of cells below the root "RACINE", and the operations that harvest live forms
 /// into it and apply it to them. It is the one class that a host creates.
 ///
@@ -79,7 +81,11 @@ class KOB_EXPORT KOBModeleTraduction {
   KOBCellTraduction* findCell(TextView path) const;
 
  private:
+  KOBCellTraduction* walkTo(TextView path) const;
+
   std::shared_ptr<KOBCellTraduction> racine_;
+  /// Only ever a shortcut: it answers what a walk would find.
+  std::unique_ptr<PathMemo> known_;
   Text fichier_;
 };
 
