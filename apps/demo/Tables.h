@@ -22,9 +22,11 @@ inline QTableWidget* rowTable(const char* name, int columns, int wide) {
   table->horizontalHeader()->setSectionResizeMode(wide, QHeaderView::Stretch);
   table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   table->horizontalHeader()->setHighlightSections(false);
+  // Only an item without a border has the padding on its left, too.
   table->setStyleSheet(
-      QStringLiteral("QTableView::item { padding: 0 8px; }"
-                     "QHeaderView::section { padding: 5px 8px; border: none; font-weight: bold;"
+      QStringLiteral("QTableView::item { padding: 0 8px; border: none; }"
+                     "QTableView::item:selected { background: #1f6f68; color: white; }"
+                     "QHeaderView::section { padding: 5px 11px; border: none; font-weight: bold;"
                      " border-bottom: 1px solid #c9c6bd; background: #efece5; }"));
   return table;
 }

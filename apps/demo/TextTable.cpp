@@ -32,8 +32,12 @@ QString placeOf(const QString& file, qsizetype line) {
 
 TextTable TextTable::builtIn() {
   registerFiles();
+  return fromFolder(u":/texts"_s);
+}
+
+TextTable TextTable::fromFolder(const QString& path) {
   TextTable table;
-  const QDir folder(u":/texts"_s);
+  const QDir folder(path);
   for (const QString& name : folder.entryList({u"*.txt"_s}, QDir::Files, QDir::Name)) {
     QFile file(folder.filePath(name));
     if (!file.open(QIODevice::ReadOnly)) {

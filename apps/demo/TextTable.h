@@ -27,6 +27,8 @@ class TextTable {
 
   /// The files that the program carries.
   static TextTable builtIn();
+  /// Every .txt file of a folder; factors.txt holds the factors.
+  static TextTable fromFolder(const QString& path);
 
   void readTexts(const QByteArray& file, const QString& name);
   void readFactors(const QByteArray& file, const QString& name);

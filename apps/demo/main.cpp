@@ -80,13 +80,14 @@ int takePictures(Demo& demo, const QStringList& fillErrors, const PrintedBoxes& 
   return errors.isEmpty() && fillErrors.isEmpty() ? Done : Failed;
 }
 
-int runDemo(const QString& pictureFolder) {
+int runDemo(const QString& textFolder, const QString& pictureFolder) {
   Demo demo;
   const PrintedBoxes boxes;
   const Filled harvested = demo.harvest();
   print(u"Harvested: %1 texts of %2 controls and messages, in French"_s.arg(harvested.references)
             .arg(harvested.cells));
-  const Filled filled = demo.fillFrom(TextTable::builtIn());
+  const Filled filled =
+      demo.fillFrom(textFolder.isEmpty() ? TextTable::builtIn() : TextTable::fromFolder(textFolder));
   print(u"Filled:    %1 texts in %2 languages, %3 left and width factors"_s.arg(filled.texts)
             .arg(languages.size() - 1)
             .arg(filled.factors));
@@ -139,6 +140,7 @@ int main(int argc, char** argv) {
   arguments.footer(footer);
   std::vector<std::string> files;
   std::string pictures;
+  std::string texts;
   arguments.add_option("files", files, "Forms of Qt Designer to show instead of the demo's own")
       ->type_name("FILE.ui");
   arguments
@@ -147,6 +149,11 @@ int main(int argc, char** argv) {
           "Write pictures into this folder instead of opening a window (without a screen and without\n"
           "this option: into \"pictures\" in the current folder)")
       ->type_name("FOLDER");
+  arguments
+      .add_option("--texts", texts,
+                  "Read the demo's translations from this folder instead of the built-in ones")
+      ->type_name("FOLDER")
+      ->check(CLI::ExistingDirectory);
   try {
     arguments.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -164,7 +171,7 @@ int main(int argc, char** argv) {
   setLook();
   const QString folder = QString::fromStdString(pictures);
   if (files.empty()) {
-    return runDemo(folder);
+    return runDemo(QString::fromStdString(texts), folder);
   }
   QStringList names;
   for (const std::string& file : files) {
