@@ -109,11 +109,14 @@ ClassTraits traitsOf(const QMetaObject& metaObject) {
 }
 
 const ClassTraits& TraitsCache::of(const QMetaObject* metaObject) {
-  const auto known = known_.find(metaObject);
-  if (known != known_.end()) {
-    return known->second;
+  if (last_ == nullptr || last_->first != metaObject) {
+    auto known = known_.find(metaObject);
+    if (known == known_.end()) {
+      known = known_.emplace(metaObject, traitsOf(*metaObject)).first;
+    }
+    last_ = &*known;
   }
-  return known_.emplace(metaObject, traitsOf(*metaObject)).first->second;
+  return last_->second;
 }
 
 }  // namespace kob::qt

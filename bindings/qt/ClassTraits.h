@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <unordered_map>
+#include <utility>
 
 namespace kob::qt {
 
@@ -49,13 +50,15 @@ struct ClassTraits {
 
 ClassTraits traitsOf(const QMetaObject& metaObject);
 
-/// Asks for each class once.
+/// Asks for each class once. What `of` returns lives as long as the cache.
 class TraitsCache {
  public:
   const ClassTraits& of(const QMetaObject* metaObject);
 
  private:
   std::unordered_map<const QMetaObject*, ClassTraits> known_;
+  // Controls of one class often stand in a row.
+  std::pair<const QMetaObject* const, ClassTraits>* last_ = nullptr;
 };
 
 }  // namespace kob::qt

@@ -27,7 +27,7 @@ FormWalk::FormWalk(QWidget& form, HostRef formObject) : form_(form), formObject_
   const ClassTraits& traits = traits_.of(form.metaObject());
   const Place place{&form, &traits, formObject_, &traits};
   if (traits.kind != Kind::WindowTitle) {
-    expose(form, traits, place)->setSecondFace();
+    expose(form, form.objectName(), traits, place)->setSecondFace();
   }
   visitBelow(form, place);
   dropTakenActions();
@@ -76,7 +76,8 @@ void FormWalk::visitPages(QWidget& parent, const Place& place) {
       visitPage(splitter.widget(i), place);
     }
   } else if (place.parentTraits->mdiArea) {
-    for (QMdiSubWindow* const subWindow : static_cast<QMdiArea&>(parent).subWindowList()) {
+    const QList<QMdiSubWindow*> subWindows = static_cast<QMdiArea&>(parent).subWindowList();
+    for (QMdiSubWindow* const subWindow : subWindows) {
       visitPage(subWindow, place);
     }
   }
@@ -94,13 +95,14 @@ void FormWalk::visitWidget(QWidget& widget, const Place& place) {
   Place inside{&widget, &traits, place.container, place.containerTraits};
   const auto met = met_.find(&widget);
   if (met == met_.end()) {
+    const QString name = widget.objectName();
     const Exposure exposure =
-        exposureOf({&widget, traits, place.parent, *place.parentTraits, *place.containerTraits});
+        exposureOf({&widget, name, traits, place.parent, *place.parentTraits, *place.containerTraits});
     if (exposure == Exposure::Closed) {
       return;
     }
     if (exposure == Exposure::Control) {
-      std::shared_ptr<LiveObject> object = expose(widget, traits, place);
+      std::shared_ptr<LiveObject> object = expose(widget, name, traits, place);
       if (traits.kind == Kind::Menu) {
         // Menus are no containers: what stands in one is the form's.
         inside.container = formObject_;
@@ -133,12 +135,13 @@ void FormWalk::visitOwnedAction(QAction& action) {
   }
   controls_.push_back(
       {std::make_shared<ActionObject>(action, ActionObject::Role::Control, formObject_, Link::Parent),
-       formObject_.get()});
+       formObject_.get(), ownName(action)});
 }
 
 // Actions and menus that are nobody's children are part of each form that shows them.
 void FormWalk::visitShownActions(const QWidget& widget, const Place& place) {
-  for (QAction* const action : widget.actions()) {
+  const QList<QAction*> actions = widget.actions();
+  for (QAction* const action : actions) {
     if (auto* const menu = action->menu<QMenu*>();
         menu != nullptr && menu->parentWidget() == nullptr && looseMenus_.insert(menu).second) {
       visitWidget(*menu, place);
@@ -176,7 +179,8 @@ FormWalk::Owner FormWalk::ownerOf(const QAction& action) {
   return Owner::Nobody;
 }
 
-std::shared_ptr<LiveObject> FormWalk::expose(QWidget& widget, const ClassTraits& traits, const Place& place) {
+std::shared_ptr<LiveObject> FormWalk::expose(QWidget& widget, const QString& name, const ClassTraits& traits,
+                                             const Place& place) {
   const bool isMenu = traits.kind == Kind::Menu;
   const HostRef& owner = isMenu ? formObject_ : place.container;
   std::shared_ptr<LiveObject> object;
@@ -197,13 +201,14 @@ std::shared_ptr<LiveObject> FormWalk::expose(QWidget& widget, const ClassTraits&
           std::make_shared<WidgetObject>(widget, traits.kind, owner, isMenu ? Link::Parent : Link::Container);
       break;
   }
-  controls_.push_back({object, owner.get()});
+  controls_.push_back({object, owner.get(), name.isEmpty() ? ownName(widget) : name});
   return object;
 }
 
 void FormWalk::takeToolBar(QToolBar& bar, const std::shared_ptr<ToolBarObject>& object) {
   std::vector<HostRef> buttons;
-  for (QAction* const action : bar.actions()) {
+  const QList<QAction*> actions = bar.actions();
+  for (QAction* const action : actions) {
     auto* const widgetAction = qobject_cast<QWidgetAction*>(action);
     auto* const button =
         widgetAction != nullptr ? qobject_cast<QToolButton*>(widgetAction->defaultWidget()) : nullptr;
@@ -220,7 +225,8 @@ void FormWalk::takeToolBar(QToolBar& bar, const std::shared_ptr<ToolBarObject>& 
 
 void FormWalk::takeMenus(QToolButton& button, ButtonObject& object) {
   std::vector<HostRef> entries;
-  for (QAction* const action : button.menu() != nullptr ? button.menu()->actions() : button.actions()) {
+  const QList<QAction*> actions = button.menu() != nullptr ? button.menu()->actions() : button.actions();
+  for (QAction* const action : actions) {
     if (action == button.defaultAction() || isInternalAction(action) ||
         ownerOf(*action) == Owner::OtherForm || !takenActions_.insert(action).second) {
       continue;
@@ -243,14 +249,16 @@ void FormWalk::dropTakenActions() {
 void FormWalk::number() {
   std::vector<NamedObject> named;
   named.reserve(controls_.size() + buttons_.size() + menus_.size());
-  for (const Control& control : controls_) {
-    named.push_back({control.object.get(), control.container});
+  for (Control& control : controls_) {
+    named.push_back({control.object.get(), control.container, std::move(control.name)});
   }
   for (const Button& button : buttons_) {
-    named.push_back({button.object.get(), static_cast<const HostObject*>(button.toolBar.get())});
+    named.push_back({button.object.get(), static_cast<const HostObject*>(button.toolBar.get()),
+                     ownName(*button.object->live())});
   }
   for (const Menu& menu : menus_) {
-    named.push_back({menu.object.get(), static_cast<const HostObject*>(buttons_[menu.button].object.get())});
+    named.push_back({menu.object.get(), static_cast<const HostObject*>(buttons_[menu.button].object.get()),
+                     ownName(*menu.object->live())});
   }
   numberEqualNames(named);
 }

@@ -35,10 +35,11 @@ class FormWalk {
   HostRef find(const QObject& live) const;
 
  private:
-  // A control with the position of its owner's path: the form, or another control.
+  // A control with the object that its path leads through: the form, or another control.
   struct Control {
     std::shared_ptr<LiveObject> object;
     const void* container;
+    QString name;
   };
   struct Menu {
     std::shared_ptr<LiveObject> object;
@@ -67,7 +68,8 @@ class FormWalk {
   void visitPage(QWidget* page, const Place& place);
   void visitOwnedAction(QAction& action);
   void visitShownActions(const QWidget& widget, const Place& place);
-  std::shared_ptr<LiveObject> expose(QWidget& widget, const ClassTraits& traits, const Place& place);
+  std::shared_ptr<LiveObject> expose(QWidget& widget, const QString& name, const ClassTraits& traits,
+                                     const Place& place);
   void takeToolBar(QToolBar& bar, const std::shared_ptr<ToolBarObject>& object);
   void takeMenus(QToolButton& button, ButtonObject& object);
   Owner ownerOf(const QAction& action);

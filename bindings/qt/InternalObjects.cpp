@@ -102,16 +102,15 @@ bool isPartOfParent(const WidgetPlace& place) {
         return static_cast<QTabWidget*>(place.parent)->tabBar() == place.widget;
       }
       // The tabs of dock widgets and sub-windows repeat the titles of those.
-      return (place.parentTraits.mdiArea || place.parentTraits.mainWindow) &&
-             place.widget->objectName().isEmpty() &&
+      return (place.parentTraits.mdiArea || place.parentTraits.mainWindow) && place.name.isEmpty() &&
              !(place.parentTraits.mainWindow &&
                static_cast<QMainWindow*>(place.parent)->centralWidget() == place.widget);
     case Kind::ToolButton:
       if (parentKind == Kind::ToolBar) {
         return isMadeForAction(static_cast<QToolButton&>(*place.widget), *place.parent);
       }
-      return parentKind == Kind::TabBar && (place.widget->objectName() == u"ScrollLeftButton" ||
-                                            place.widget->objectName() == u"ScrollRightButton");
+      return parentKind == Kind::TabBar &&
+             (place.name == u"ScrollLeftButton" || place.name == u"ScrollRightButton");
     default:
       break;
   }
@@ -124,7 +123,7 @@ bool isPartOfParent(const WidgetPlace& place) {
 
 // What stands without a name in an item view (editors, widgets on items) or in the frame of a wizard.
 bool isNamelessFiller(const WidgetPlace& place) {
-  if (!place.widget->objectName().isEmpty()) {
+  if (!place.name.isEmpty()) {
     return false;
   }
   if (place.containerTraits.itemView) {
@@ -162,7 +161,7 @@ Exposure exposureOf(const WidgetPlace& place) {
   if (place.widget->isWindow() && !place.traits.ownedPart) {
     return Exposure::Closed;
   }
-  const QString name = place.widget->objectName();
+  const QString& name = place.name;
   if (place.traits.kind == Kind::Menu) {
     return place.traits.internal || hasInternalName(name) || isInternalMenu(place) ? Exposure::Closed
                                                                                    : Exposure::Control;

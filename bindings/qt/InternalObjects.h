@@ -6,6 +6,7 @@
 #include <cstdint>
 
 class QAction;
+class QString;
 class QWidget;
 
 namespace kob::qt {
@@ -24,6 +25,7 @@ enum class Exposure : std::uint8_t {
 /// A widget and the place where the walk meets it.
 struct WidgetPlace {
   QWidget* widget;
+  const QString& name;  ///< its objectName
   const ClassTraits& traits;
   QWidget* parent;
   const ClassTraits& parentTraits;

@@ -6,6 +6,8 @@
 
 #include <kobtraductionqt/KOBTraductionQt.h>
 
+#include <utility>
+
 namespace kob::qt {
 
 namespace {
@@ -97,6 +99,9 @@ std::optional<Value> LiveObject::index() const {
 }
 
 bool LiveObject::writeTag(QObject& object, const Value& value) {
+  if (value.text() != nullptr && value.text()->empty() && object.dynamicPropertyNames().isEmpty()) {
+    return true;
+  }
   const std::optional<QString> text = asQString(value);
   if (!text) {
     return false;
@@ -108,10 +113,10 @@ bool LiveObject::writeTag(QObject& object, const Value& value) {
   }
   // The engine blanks a tag and puts its text back: a tag that is not a text must not become one by that.
   if (text->isEmpty()) {
-    blankedTag_ = *present;
-    object.setProperty(tagName, QString(u""_qs));
-  } else if (blankedTag_.isValid() && presentText.isEmpty() && blankedTag_.toString() == *text) {
-    object.setProperty(tagName, std::exchange(blankedTag_, QVariant()));
+    blankedTag_ = std::make_unique<QVariant>(*present);
+    object.setProperty(tagName, u""_qs);
+  } else if (blankedTag_ != nullptr && presentText.isEmpty() && blankedTag_->toString() == *text) {
+    object.setProperty(tagName, *std::exchange(blankedTag_, nullptr));
   } else {
     object.setProperty(tagName, *text);
   }

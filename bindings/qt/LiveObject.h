@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QVariant>
 
+#include <memory>
+
 namespace kob::qt {
 
 /// What every host object of a form has in common: a guarded live object, its name, Index and tag, and its
@@ -53,7 +55,7 @@ class LiveObject : public HostObject {
 
   QPointer<QObject> object_;
   HostRef owner_;
-  QVariant blankedTag_;
+  std::unique_ptr<QVariant> blankedTag_;
   std::int32_t index_ = -1;
   Link link_;
   bool secondFace_ = false;

@@ -9,7 +9,8 @@
 #include <QMetaEnum>
 #include <QPushButton>
 
-#include <unordered_map>
+#include <cstdint>
+#include <optional>
 
 namespace kob::qt {
 
@@ -35,28 +36,67 @@ QString numbered(const QString& name, std::int32_t number) {
   return name + u'(' + QString::number(number) + u')';
 }
 
-struct PathKey {
+TextView units(const QString& text) noexcept {
+  return {reinterpret_cast<const char16_t*>(text.constData()), static_cast<std::size_t>(text.size())};
+}
+
+// The objects of one path.
+struct SamePath {
   const void* container;
   QString name;
-
-  TextView units() const noexcept {
-    return {reinterpret_cast<const char16_t*>(name.constData()), static_cast<std::size_t>(name.size())};
-  }
-  bool operator==(const PathKey& other) const noexcept {
-    return container == other.container && equalUpper(units(), other.units());
-  }
-};
-
-struct PathKeyHash {
-  std::size_t operator()(const PathKey& key) const noexcept {
-    return std::hash<const void*>()(key.container) * 31 + hashUpper(key.units());
-  }
-};
-
-// The objects of one path, chained through their positions in the list of all objects.
-struct SamePath {
-  int count = 0;
+  std::uint32_t hash;
+  std::int32_t count = 0;
   std::int32_t next = 0;
+};
+
+// Paths by container and name, case ignored. One block each for the paths and for the slots: a form with
+// thousands of controls is numbered each time that it is walked.
+class Paths {
+ public:
+  explicit Paths(std::size_t most) {
+    std::size_t size = 16;
+    while (size < most * 2) {
+      size *= 2;
+    }
+    slots_.assign(size, empty);
+    paths_.reserve(most);
+  }
+
+  std::size_t add(const void* container, const QString& name) {
+    const std::uint32_t hash = hashOf(container, name);
+    std::uint32_t& slot = slotOf(container, name, hash);
+    if (slot == empty) {
+      slot = static_cast<std::uint32_t>(paths_.size());
+      paths_.push_back({container, name, hash});
+    }
+    return slot;
+  }
+  bool has(const void* container, const QString& name) {
+    return slotOf(container, name, hashOf(container, name)) != empty;
+  }
+  SamePath& operator[](std::size_t path) { return paths_[path]; }
+
+ private:
+  static constexpr std::uint32_t empty = ~std::uint32_t{0};
+
+  static std::uint32_t hashOf(const void* container, const QString& name) {
+    const auto address = reinterpret_cast<std::uintptr_t>(container) >> 4;
+    return hashUpper(units(name)) ^ (static_cast<std::uint32_t>(address) * 0x9E3779B1U);
+  }
+  std::uint32_t& slotOf(const void* container, const QString& name, std::uint32_t hash) {
+    std::size_t place = hash & (slots_.size() - 1);
+    while (slots_[place] != empty) {
+      const SamePath& path = paths_[slots_[place]];
+      if (path.hash == hash && path.container == container && equalUpper(units(path.name), units(name))) {
+        break;
+      }
+      place = (place + 1) & (slots_.size() - 1);
+    }
+    return slots_[place];
+  }
+
+  std::vector<std::uint32_t> slots_;
+  std::vector<SamePath> paths_;
 };
 
 }  // namespace
@@ -74,32 +114,27 @@ QString ownName(const QObject& object) {
 }
 
 void numberEqualNames(const std::vector<NamedObject>& objects) {
-  std::unordered_map<PathKey, SamePath, PathKeyHash> paths;
-  paths.reserve(objects.size());
-  std::vector<SamePath*> samePaths;
-  samePaths.reserve(objects.size());
-  std::vector<bool> explicitIndex(objects.size());
-  for (std::size_t i = 0; i < objects.size(); ++i) {
-    const QObject& live = *objects[i].object->live();
-    QString name = ownName(live);
-    if (const std::optional<std::int32_t> index = objects[i].object->indexOfApplication()) {
-      explicitIndex[i] = true;
-      name = numbered(name, *index);
-    }
-    SamePath& same = paths[PathKey{objects[i].container, std::move(name)}];
-    ++same.count;
-    samePaths.push_back(&same);
+  Paths paths(objects.size());
+  constexpr std::size_t none = ~std::size_t{0};
+  std::vector<std::size_t> unnumbered;
+  unnumbered.reserve(objects.size());
+  bool collide = false;
+  for (const NamedObject& object : objects) {
+    const std::optional<std::int32_t> index = object.object->indexOfApplication();
+    const std::size_t path = index ? paths.add(object.container, numbered(object.name, *index))
+                                   : paths.add(object.container, object.name);
+    collide = ++paths[path].count > 1 || collide;
+    unnumbered.push_back(index ? none : path);
   }
-  for (std::size_t i = 0; i < objects.size(); ++i) {
-    SamePath& same = *samePaths[i];
-    if (same.count < 2 || explicitIndex[i]) {
+  for (std::size_t i = 0; collide && i < objects.size(); ++i) {
+    if (unnumbered[i] == none || paths[unnumbered[i]].count < 2) {
       continue;
     }
-    const QString name = ownName(*objects[i].object->live());
-    while (paths.find(PathKey{objects[i].container, numbered(name, same.next)}) != paths.end()) {
-      ++same.next;
+    std::int32_t& next = paths[unnumbered[i]].next;
+    while (paths.has(objects[i].container, numbered(objects[i].name, next))) {
+      ++next;
     }
-    objects[i].object->setIndex(same.next++);
+    objects[i].object->setIndex(next++);
   }
 }
 

@@ -19,6 +19,7 @@ QString ownName(const QObject& object);
 struct NamedObject {
   LiveObject* object;
   const void* container;
+  QString name;  ///< its ownName
 };
 
 /// Gives an Index to objects whose path would be the same, numbered from 0 in the order given. An object
