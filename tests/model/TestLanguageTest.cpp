@@ -115,7 +115,7 @@ TEST_F(WholeTreeLanguages, AFailureReachesTheCallerAndWhatWasDoneBeforeStays) {
 }
 
 TEST_F(WholeTreeLanguages, ALanguageThatCannotBeChosenDoesNotEvenWalkADamagedTree) {
-  toolTip->setColTraduction(nullptr);
+  first->setTraduction(nullptr);
   for (const std::int32_t langue : {0, 1, 7}) {
     EXPECT_EQ(failureOf([&] { model.UpdateTestLangue(langue); }), std::nullopt);
     EXPECT_EQ(failureOf([&] { model.ClearLangue(langue); }), std::nullopt);
