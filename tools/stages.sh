@@ -97,11 +97,11 @@ stage_demo() {
 }
 
 stage_fidelity() {
-  local corpus="$root/../shared/corpus/qt" sample=(--sample 10)
+  # All forms take seconds; the share that is asked for holds for all of them, not for every sample.
+  local corpus="$root/../shared/corpus/qt"
   [ -d "$corpus" ] || { stage_skip "there are no applications in ../shared/corpus/qt"; return; }
-  [ "$whole" = no ] || sample=()
   build_preset release kobfidelity
-  QT_QPA_PLATFORM=offscreen build/release/bin/kobfidelity "$corpus"/*/ "${sample[@]}" >"$results/fidelity.log" ||
+  QT_QPA_PLATFORM=offscreen build/release/bin/kobfidelity "$corpus"/*/ >"$results/fidelity.log" ||
     { tail -n 40 "$results/fidelity.log"; return 1; }
   grep '^fidelity: ' "$results/fidelity.log"
   counted 1 0 0
