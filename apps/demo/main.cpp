@@ -53,6 +53,13 @@ void printErrors(const QStringList& errors) {
   }
 }
 
+// The toolkit's platform without a screen complains once for every window that is shown.
+void dropComplaints(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (message != "This plugin does not support propagateSizeHints()"_L1) {
+    std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
+  }
+}
+
 bool hasScreen() {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
   const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
@@ -163,6 +170,7 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
       qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    qInstallMessageHandler(dropComplaints);
     if (pictures.empty()) {
       pictures = "pictures";
     }
