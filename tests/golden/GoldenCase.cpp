@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include "GoldenCase.h"
+
+#include "Operations.h"
+
+#include <tests/doubles/Difference.h>
+#include <tests/doubles/Lines.h>
+
+#include <algorithm>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <stdexcept>
+
+namespace kob::testing {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path folderOf(const std::string& name) {
+  return fs::path(KOB_GOLDEN_CASES) / name;
+}
+
+std::optional<std::string> readFile(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) {
+    return std::nullopt;
+  }
+  return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+std::string mustRead(const fs::path& path) {
+  std::optional<std::string> text = readFile(path);
+  if (!text) {
+    throw std::runtime_error("the case has no file " + path.filename().string());
+  }
+  return std::move(*text);
+}
+
+/// One expectation: a file, and what stands for it when there is none.
+class Expectation {
+ public:
+  Expectation(fs::path path, std::string unchanged)
+      : path_(std::move(path)), unchanged_(std::move(unchanged)) {}
+
+  std::string compare(const std::string& seen) const {
+    const std::string difference = testing::difference(readFile(path_).value_or(unchanged_), seen);
+    return difference.empty() ? ""
+                              : path_.string() + " (- expected, + seen; --update writes it)\n" + difference;
+  }
+
+  void update(const std::string& seen) const {
+    if (seen == unchanged_) {
+      fs::remove(path_);
+    } else {
+      std::ofstream(path_, std::ios::binary) << seen;
+    }
+  }
+
+ private:
+  fs::path path_;
+  std::string unchanged_;
+};
+
+}  // namespace
+
+CaseHost::~CaseHost() = default;
+
+std::vector<std::string> goldenCases() {
+  std::vector<std::string> names;
+  for (const fs::directory_entry& entry : fs::directory_iterator(KOB_GOLDEN_CASES)) {
+    if (entry.is_directory()) {
+      names.push_back(entry.path().filename().string());
+    }
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+std::string reasonToSkip(const std::string& name, std::string_view hostKind) {
+  const std::string only = readFile(folderOf(name) / "only").value_or("");
+  if (only.empty() || std::string_view(only).starts_with(hostKind)) {
+    return {};
+  }
+  return only;
+}
+
+std::string runGoldenCase(const std::string& name, const MakeHost& makeHost, bool update) {
+  const fs::path folder = folderOf(name);
+  const std::unique_ptr<CaseHost> host = makeHost(mustRead(folder / "form"));
+  CaseRun run(*host, readFile(folder / "tree").value_or(""));
+  const Expectation form(folder / "expected-form", host->print());
+  const Expectation tree(folder / "expected-tree", run.tree());
+  const Expectation messages(folder / "expected-messages", "");
+  for (const Line& line : linesOf(mustRead(folder / "operations"))) {
+    run.perform(line);
+  }
+  if (update) {
+    form.update(host->print());
+    tree.update(run.tree());
+    messages.update(run.messages());
+    return {};
+  }
+  return form.compare(host->print()) + tree.compare(run.tree()) + messages.compare(run.messages());
+}
+
+bool takeUpdateFlag(int& count, char** arguments) {
+  char** const end = arguments + count;
+  char** const kept = std::remove_if(
+      arguments + 1, end, [](const char* argument) { return std::strcmp(argument, "--update") == 0; });
+  const bool has = kept != end;
+  count = static_cast<int>(kept - arguments);
+  return has;
+}
+
+}  // namespace kob::testing
