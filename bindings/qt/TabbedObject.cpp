@@ -86,22 +86,22 @@ bool TabbedObject::has(int tab) const {
   return tab >= 0 && tab < count();
 }
 
-QString TabbedObject::text(int tab) const {
+QString TabbedObject::textOf(int tab) const {
   return withTabs(widget(), kind(), [tab](auto& tabs) { return tabText(tabs, tab); });
 }
 
 // Tab bars lay all tabs out anew and scroll to the current one even when the text is the same.
-void TabbedObject::setText(int tab, const QString& text) {
-  if (this->text(tab) != text) {
+void TabbedObject::writeTextOf(int tab, const QString& text) {
+  if (textOf(tab) != text) {
     withTabs(widget(), kind(), [&](auto& tabs) { setTabText(tabs, tab, text); });
   }
 }
 
-QString TabbedObject::toolTip(int tab) const {
+QString TabbedObject::toolTipOf(int tab) const {
   return withTabs(widget(), kind(), [tab](auto& tabs) { return tabToolTip(tabs, tab); });
 }
 
-void TabbedObject::setToolTip(int tab, const QString& toolTip) {
+void TabbedObject::writeToolTipOf(int tab, const QString& toolTip) {
   withTabs(widget(), kind(), [&](auto& tabs) { setTabToolTip(tabs, tab, toolTip); });
 }
 
@@ -112,44 +112,40 @@ std::optional<Value> TabbedObject::read(Property property) {
     case Property::Tab:
       return Value(current());
     case Property::Caption:
-      return has(current()) ? std::optional<Value>(toText(text(current()))) : std::nullopt;
+      return has(current()) ? std::optional<Value>(toText(textOf(current()))) : std::nullopt;
     case Property::ToolTipText:
-      return Value(has(current()) ? toText(toolTip(current())) : Text());
+      return Value(has(current()) ? toText(toolTipOf(current())) : Text());
     default:
       return WidgetObject::read(property);
   }
 }
 
 bool TabbedObject::write(Property property, const Value& value) {
-  switch (property) {
-    case Property::Tab: {
-      const std::optional<std::int32_t> tab = value.asLong();
-      if (!tab || (*tab != shown() && !has(*tab))) {
-        return false;
-      }
-      chosen_ = *tab == shown() ? std::nullopt : std::optional<int>(*tab);
-      return true;
-    }
-    case Property::Caption:
-    case Property::ToolTipText: {
-      const std::optional<QString> text = asQString(value);
-      if (!text || !has(current())) {
-        return false;
-      }
-      if (property == Property::Caption) {
-        setText(current(), *text);
-      } else {
-        setToolTip(current(), *text);
-      }
-      return true;
-    }
-    default:
-      return WidgetObject::write(property, value);
+  if (property != Property::Tab) {
+    return WidgetObject::write(property, value);
   }
+  const std::optional<std::int32_t> tab = value.asLong();
+  if (!tab || (*tab != shown() && !has(*tab))) {
+    return false;
+  }
+  chosen_ = *tab == shown() ? std::nullopt : std::optional<int>(*tab);
+  return true;
+}
+
+bool TabbedObject::writeText(Property property, const QString& text) {
+  if (!has(current())) {
+    return false;
+  }
+  if (property == Property::Caption) {
+    setText(current(), text);
+  } else {
+    setToolTip(current(), text);
+  }
+  return true;
 }
 
 std::optional<Value> TabbedObject::readIndexed(Property property, std::int32_t index) {
-  return property == Property::TabCaption && has(index) ? std::optional<Value>(toText(text(index)))
+  return property == Property::TabCaption && has(index) ? std::optional<Value>(toText(textOf(index)))
                                                         : std::nullopt;
 }
 
@@ -159,7 +155,7 @@ bool TabbedObject::writeIndexed(Property property, std::int32_t index, const Val
   }
   const std::optional<QString> text = asQString(value);
   if (text) {
-    setText(index, *text);
+    writeTextOf(index, *text);
   }
   return text.has_value();
 }

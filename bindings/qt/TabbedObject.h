@@ -15,6 +15,7 @@ class TabbedObject final : public WidgetObject {
  private:
   std::optional<Value> read(Property property) override;
   bool write(Property property, const Value& value) override;
+  bool writeText(Property property, const QString& text) override;
   std::optional<Value> readIndexed(Property property, std::int32_t index) override;
   bool writeIndexed(Property property, std::int32_t index, const Value& value) override;
 
@@ -22,10 +23,10 @@ class TabbedObject final : public WidgetObject {
   int shown() const;
   int current() const;
   bool has(int tab) const;
-  QString text(int tab) const;
-  void setText(int tab, const QString& text);
-  QString toolTip(int tab) const;
-  void setToolTip(int tab, const QString& toolTip);
+  QString textOf(int tab) const;
+  void writeTextOf(int tab, const QString& text);
+  QString toolTipOf(int tab) const;
+  void writeToolTipOf(int tab, const QString& toolTip);
 
   std::optional<int> chosen_;
 };
