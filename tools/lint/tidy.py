@@ -1,6 +1,8 @@
 # SPDX-FileCopyrightText: The KOBTraduction authors
 """tidy: clang-tidy with the checks of .clang-tidy, over every file of the release build.
 
+Most of the time goes into the headers of others, so files that are compiled alike are looked at several at once, as
+one source that includes them; where that does not compile (two of them use one name), by halves.
 A file that was clean is not looked at again until it, a header of ours that it includes, how it is compiled, or the
 checks change (stamps in build/tidy).
 """
@@ -11,6 +13,7 @@ import json
 import os
 import pathlib
 import re
+import shlex
 import subprocess
 import tempfile
 
@@ -20,19 +23,22 @@ from tree import Outcome, ROOT, cpp_files
 PROGRAM = "clang-tidy-14"
 BUILD = ROOT / "build" / "release"
 STAMPS = ROOT / "build" / "tidy"
-# The precompiled headers of the build are another compiler's.
-PRECOMPILED = re.compile(r"\s-Winvalid-pch|\s-include \S+cmake_pch\.hxx(?:\.pch)?")
+AT_ONCE = 8
+# What cannot be said of a file that is included by another.
+ALONE_ONLY = "-misc-definitions-in-headers,-bugprone-suspicious-include"
+
+
+def flags_of(entry):
+    """How a file is compiled, without the compiler's name and the file's own."""
+    words = shlex.split(entry["command"])
+    return tuple(words[next(i for i, word in enumerate(words) if word.startswith("-")):words.index("-o")])
 
 
 def commands():
-    """How each of our own files is compiled, without what only the other compiler understands."""
+    """Each of our own files that is compiled, and its flags."""
     ours = {str(ROOT / path) for path in cpp_files()}
-    entries = {}
-    for entry in json.loads((BUILD / "compile_commands.json").read_text()):
-        if entry["file"] in ours:
-            entry["command"] = PRECOMPILED.sub("", entry["command"])
-            entries[entry["file"]] = entry
-    return entries
+    return {entry["file"]: flags_of(entry) for entry in json.loads((BUILD / "compile_commands.json").read_text())
+            if entry["file"] in ours}
 
 
 def own_headers(path, folders, seen):
@@ -47,23 +53,46 @@ def own_headers(path, folders, seen):
     return seen
 
 
-def key(entry, checks):
-    path = pathlib.Path(entry["file"])
-    folders = [pathlib.Path(folder) for folder in re.findall(r"-(?:I|isystem )\s*(\S+)", entry["command"])
-               if folder.startswith(str(ROOT))]
-    digest = hashlib.sha256((entry["command"] + checks).encode())
-    for file in sorted({path} | own_headers(path, folders, set())):
-        digest.update(file.read_bytes())
+def key(file, flags, checks):
+    path = pathlib.Path(file)
+    folders = [pathlib.Path(flag.removeprefix("-I")) for flag in flags if flag.startswith(f"-I{ROOT}")]
+    digest = hashlib.sha256((" ".join(flags) + checks).encode())
+    for header in sorted({path} | own_headers(path, folders, set())):
+        digest.update(header.read_bytes())
     return digest.hexdigest()
 
 
-def tidy(file, database):
-    said = subprocess.run([PROGRAM, "--quiet", "-p", database, file], cwd=ROOT, capture_output=True, text=True)
+def tidy(source, flags, *options):
+    """The findings in a source, and whether it compiled."""
+    said = subprocess.run([PROGRAM, "--quiet", *options, str(source), "--", *flags], cwd=ROOT, capture_output=True,
+                          text=True)
     found = re.findall(r"^(\S+:\d+):\d+: (?:warning|error): (.*)$", said.stdout, re.M)
-    findings = [f"{place.removeprefix(str(ROOT) + '/')}: {what}" for place, what in found]
+    findings = {f"{place.removeprefix(str(ROOT) + '/')}: {what}" for place, what in found}
     if said.returncode and not findings:
-        findings = [f"{file}: {PROGRAM} failed: {said.stderr.strip()[-400:]}"]
-    return findings
+        findings = {f"{source}: {PROGRAM} failed: {said.stderr.strip()[-400:]}"}
+    return findings, not any("[clang-diagnostic-error" in finding or " failed: " in finding for finding in findings)
+
+
+def tidy_group(files, flags):
+    if len(files) == 1:
+        return tidy(files[0], flags)[0]
+    with tempfile.TemporaryDirectory(dir=STAMPS.parent) as folder:
+        source = pathlib.Path(folder, "group.cpp")
+        source.write_text("".join(f'#include "{file}"\n' for file in files))
+        findings, has_compiled = tidy(source, flags, f"--checks={ALONE_ONLY}")
+    if has_compiled:
+        return findings
+    half = len(files) // 2
+    return tidy_group(files[:half], flags) | tidy_group(files[half:], flags)
+
+
+def groups_of(entries):
+    """Files of one folder that are compiled alike, a few at a time."""
+    alike = {}
+    for file, flags in sorted(entries.items()):
+        alike.setdefault((os.path.dirname(file), flags), []).append(file)
+    return [(files[start:start + AT_ONCE], flags) for (_, flags), files in alike.items()
+            for start in range(0, len(files), AT_ONCE)]
 
 
 def generate_sources():
@@ -78,23 +107,24 @@ def generate_sources():
 def run():
     generate_sources()
     entries = commands()
-    checks = (ROOT / ".clang-tidy").read_text() + subprocess.run([PROGRAM, "--version"], capture_output=True,
-                                                                text=True).stdout
+    version = subprocess.run([PROGRAM, "--version"], capture_output=True, text=True).stdout
+    checks = (ROOT / ".clang-tidy").read_text() + version
     STAMPS.mkdir(parents=True, exist_ok=True)
-    stamps = {file: STAMPS / key(entry, checks) for file, entry in entries.items()}
-    fresh = sorted(file for file, stamp in stamps.items() if not stamp.exists())
+    stamps = {file: STAMPS / key(file, flags, checks) for file, flags in entries.items()}
+    groups = groups_of({file: flags for file, flags in entries.items() if not stamps[file].exists()})
     findings = set()
-    with tempfile.TemporaryDirectory() as database, concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        pathlib.Path(database, "compile_commands.json").write_text(json.dumps(list(entries.values())))
-        for file, found in zip(fresh, pool.map(lambda file: tidy(file, database), fresh)):
-            findings.update(found)
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        for (files, _), found in zip(groups, pool.map(lambda group: tidy_group(*group), groups)):
+            findings |= found
             if not found:
-                stamps[file].touch()
+                for file in files:
+                    stamps[file].touch()
     return Outcome(sorted(findings), len(entries))
 
 
 def self_test():
     """A text read after it was moved away."""
+    STAMPS.mkdir(parents=True, exist_ok=True)
     with tempfile.TemporaryDirectory(dir=STAMPS.parent) as folder:
         file = pathlib.Path(folder, "self_test.cpp")
         file.write_text("#include <string>\n#include <utility>\n"
