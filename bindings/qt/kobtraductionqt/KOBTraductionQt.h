@@ -13,9 +13,9 @@ class QWidget;
 /// Live Qt 6 Widgets forms as host objects. Used on the GUI thread only.
 namespace kob::qt {
 
-/// The host object of a live form (a window, or any widget taken as one) or of a control inside a form. A null
-/// widget gives a null reference. The object does not own the widget: once the widget is deleted, it answers
-/// "failed" to everything. A form shows the controls that it has at the time "Controls" is read.
+/// The host object of a live form (a window, or any widget taken as one) or of a control inside a form. A
+/// null widget gives a null reference. The object does not own the widget: once the widget is deleted, it
+/// answers "failed" to everything. A form shows the controls that it has at the time "Controls" is read.
 KOB_QT_EXPORT HostRef hostForm(QWidget* form);
 /// A control is seen as part of the form that holds it: of `form`, or when that is null of its own window.
 KOB_QT_EXPORT HostRef hostControl(QWidget* control, QWidget* form = nullptr);

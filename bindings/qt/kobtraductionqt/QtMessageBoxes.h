@@ -6,9 +6,9 @@
 
 namespace kob::qt {
 
-/// The component's messages as QMessageBox, modal to the active window. While an object of this class lives, it is
-/// the thread's message boxes (Global_Util); the ones before it are put back when it dies. Keep one beside the
-/// QApplication. GUI thread only.
+/// The component's messages as QMessageBox, modal to the active window. While an object of this class lives,
+/// it is the thread's message boxes (Global_Util); the ones before it are put back when it dies. Keep one
+/// beside the QApplication. GUI thread only.
 class KOB_QT_EXPORT QtMessageBoxes final : public MessageBoxes {
  public:
   QtMessageBoxes();
