@@ -19,7 +19,7 @@ namespace kob::fidelity {
 class TestFiles {
  public:
   QString write(const QString& name, const QByteArray& content) const {
-    const QString path = folder_.filePath(name);
+    QString path = folder_.filePath(name);
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     if (file.open(QIODevice::WriteOnly)) {
