@@ -96,16 +96,20 @@ def groups_of(entries):
 
 
 def generate_sources():
-    """What the build generates and our files include: the toolkit's meta-objects and forms."""
+    """What the build generates and our files include: the toolkit's meta-objects and forms. The end of what the build
+    said when that failed."""
     targets = subprocess.run(["ninja", "-C", BUILD, "-t", "targets", "all"], check=True, capture_output=True,
                              text=True).stdout
     autogen = re.findall(r"^(\S+_autogen): phony", targets, re.M)
-    if autogen:
-        subprocess.run(["ninja", "-C", BUILD, *dict.fromkeys(autogen)], check=True, stdout=subprocess.DEVNULL)
+    if not autogen:
+        return ""
+    said = subprocess.run(["ninja", "-C", BUILD, *dict.fromkeys(autogen)], capture_output=True, text=True)
+    return said.stdout[-2000:] if said.returncode else ""
 
 
 def run():
-    generate_sources()
+    if failure := generate_sources():
+        return Outcome([f"{BUILD.name}: the tree does not build: {failure}"], 0)
     entries = commands()
     version = subprocess.run([PROGRAM, "--version"], capture_output=True, text=True).stdout
     checks = (ROOT / ".clang-tidy").read_text() + version
