@@ -166,7 +166,7 @@ void MainWindow::makeToolBar() {
     bar_->addWidget(made);
     return made;
   };
-  const auto entry = [this](QMenu* menu, const char* name, const QString& text) {
+  const auto entry = [](QMenu* menu, const char* name, const QString& text) {
     auto* const action = new QAction(text, menu);
     action->setObjectName(QLatin1String(name));
     menu->addAction(action);

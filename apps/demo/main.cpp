@@ -116,8 +116,10 @@ int runDesignerForms(const QStringList& files, const QString& pictureFolder) {
             .arg(harvested.cells)
             .arg(forms.forms().size()));
   const bool allLoaded = forms.errors().isEmpty();
-  forms.showTestLanguage();
-  print(u"Applied:   a test language, each text between \"** \" and \" **\""_s);
+  if (!forms.forms().empty()) {
+    forms.showTestLanguage();
+    print(u"Applied:   a test language, each text between \"** \" and \" **\""_s);
+  }
   if (!pictureFolder.isEmpty()) {
     for (const QString& path : forms.savePictures(pictureFolder)) {
       print(u"Picture:   "_s + shownPath(path));

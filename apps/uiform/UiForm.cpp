@@ -47,8 +47,14 @@ std::unique_ptr<QWidget> loadUiForm(const QString& path, QString* error) {
   loader.setWorkingDirectory(QFileInfo(path).absoluteDir());
   std::unique_ptr<QWidget> form(loader.load(&buffer));
   if (form == nullptr) {
-    return fail(loader.errorString().isEmpty() ? QStringLiteral("the toolkit's loader makes no form of it")
-                                               : loader.errorString().simplified());
+    // The loader itself does not name a class that it does not know.
+    static const QRegularExpression root(QStringLiteral("<widget\\s[^>]*\\bclass\\s*=\\s*[\"']([^\"']*)"));
+    const QString rootClass = root.match(QString::fromUtf8(bytes)).captured(1);
+    const QString reason = loader.errorString().isEmpty()
+                               ? QStringLiteral("the toolkit's loader makes no form of it")
+                               : loader.errorString().simplified();
+    return fail(rootClass.isEmpty() ? reason
+                                    : QStringLiteral("%1 (its root is a \"%2\")").arg(reason, rootClass));
   }
   return form;
 }

@@ -61,6 +61,7 @@ TEST_F(Designer, WhatCannotBeLoadedIsTold) {
   ASSERT_EQ(forms.errors().size(), 3);
   EXPECT_TRUE(forms.errors()[0].startsWith(form("cut.ui") + u": "_s));
   EXPECT_TRUE(forms.errors()[1].startsWith(form("unknown-root.ui") + u": "_s));
+  EXPECT_TRUE(forms.errors()[1].contains(u"\"TableauDeBord\""_s)) << forms.errors()[1].toStdString();
   EXPECT_TRUE(forms.errors()[2].startsWith(form("missing.ui") + u": cannot be read"_s));
 }
 
