@@ -26,18 +26,11 @@ std::optional<Value> ActionObject::read(Property property) {
   }
 }
 
-bool ActionObject::write(Property property, const Value& value) {
-  if (property != Property::Caption && property != Property::ToolTipText) {
-    return false;
-  }
-  const std::optional<QString> text = asQString(value);
-  if (!text) {
-    return false;
-  }
+bool ActionObject::writeText(Property property, const QString& text) {
   if (property == Property::Caption) {
-    setTextWithDerived(action(), *text);
+    setTextWithDerived(action(), text);
   } else {
-    setOwnToolTip(action(), *text);
+    setOwnToolTip(action(), text);
   }
   return true;
 }

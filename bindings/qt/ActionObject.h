@@ -17,7 +17,7 @@ class ActionObject final : public LiveObject {
 
  private:
   std::optional<Value> read(Property property) override;
-  bool write(Property property, const Value& value) override;
+  bool writeText(Property property, const QString& text) override;
 
   QAction& action() const noexcept { return *static_cast<QAction*>(live()); }
 

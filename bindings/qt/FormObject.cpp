@@ -33,15 +33,6 @@ std::optional<Value> FormObject::read(Property property) {
 
 bool FormObject::write(Property property, const Value& value) {
   switch (property) {
-    case Property::Caption:
-    case Property::ToolTipText: {
-      const std::optional<QString> text = asQString(value);
-      if (!text) {
-        return false;
-      }
-      return property == Property::Caption ? setWidgetCaption(form(), Kind::WindowTitle, *text)
-                                           : setWidgetToolTip(form(), Kind::WindowTitle, *text);
-    }
     case Property::Left:
       return setLeft(form(), value);
     case Property::Width:
@@ -49,6 +40,11 @@ bool FormObject::write(Property property, const Value& value) {
     default:
       return false;
   }
+}
+
+bool FormObject::writeText(Property property, const QString& text) {
+  return property == Property::Caption ? setWidgetCaption(form(), Kind::WindowTitle, text)
+                                       : setWidgetToolTip(form(), Kind::WindowTitle, text);
 }
 
 }  // namespace kob::qt

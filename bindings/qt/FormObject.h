@@ -17,6 +17,7 @@ class FormObject final : public LiveObject, public std::enable_shared_from_this<
  private:
   std::optional<Value> read(Property property) override;
   bool write(Property property, const Value& value) override;
+  bool writeText(Property property, const QString& text) override;
 
   QWidget& form() const noexcept { return *static_cast<QWidget*>(live()); }
 };

@@ -51,6 +51,10 @@ constexpr const char* internalClassNames[] = {
 };
 
 bool hasInternalName(const QString& name) {
+  // Nearly every name is ruled out by its first letter.
+  if (name.isEmpty() || (name.front() != u'q' && name.front() != u'_')) {
+    return false;
+  }
   return name.startsWith(u"qt_") || name.startsWith(u"_q_") || name.startsWith(u"__qt__");
 }
 

@@ -15,6 +15,10 @@ namespace {
 constexpr char tagName[] = "tag";
 constexpr char indexName[] = "Index";
 
+bool isText(Property property) noexcept {
+  return property == Property::Caption || property == Property::ToolTipText;
+}
+
 }  // namespace
 
 LiveObject::LiveObject(QObject& object, HostRef owner, Link link)
@@ -48,7 +52,14 @@ bool LiveObject::set(Property property, const Value& value) {
   if (object == nullptr) {
     return false;
   }
-  return property == Property::Tag ? writeTag(*object, value) : write(property, value);
+  if (property == Property::Tag) {
+    return writeTag(*object, value);
+  }
+  if (isText(property)) {
+    const std::optional<QString> text = asQString(value);
+    return text && writeText(property, *text);
+  }
+  return write(property, value);
 }
 
 std::optional<Value> LiveObject::getIndexed(Property property, std::int32_t index) {
@@ -57,6 +68,31 @@ std::optional<Value> LiveObject::getIndexed(Property property, std::int32_t inde
 
 bool LiveObject::setIndexed(Property property, std::int32_t index, const Value& value) {
   return live() != nullptr && writeIndexed(property, index, value);
+}
+
+bool LiveObject::appendText(Property property, Text& text) {
+  QObject* const object = live();
+  if (object == nullptr) {
+    return false;
+  }
+  if (property == Property::Name) {
+    const QString name = ownName(*object);
+    text.append(reinterpret_cast<const char16_t*>(name.constData()), static_cast<std::size_t>(name.size()));
+    return true;
+  }
+  return (property == Property::Tag && object->dynamicPropertyNames().isEmpty()) ||
+         HostObject::appendText(property, text);
+}
+
+bool LiveObject::assignText(Property property, TextView text) {
+  QObject* const object = live();
+  if (object == nullptr) {
+    return false;
+  }
+  if (property == Property::Tag) {
+    return (text.empty() && object->dynamicPropertyNames().isEmpty()) || writeTag(*object, Value(text));
+  }
+  return isText(property) ? writeText(property, toQString(text)) : write(property, Value(text));
 }
 
 const void* LiveObject::identity() const noexcept {
@@ -69,6 +105,10 @@ std::optional<Value> LiveObject::readIndexed(Property, std::int32_t) {
 }
 
 bool LiveObject::writeIndexed(Property, std::int32_t, const Value&) {
+  return false;
+}
+
+bool LiveObject::write(Property, const Value&) {
   return false;
 }
 
@@ -99,9 +139,6 @@ std::optional<Value> LiveObject::index() const {
 }
 
 bool LiveObject::writeTag(QObject& object, const Value& value) {
-  if (value.text() != nullptr && value.text()->empty() && object.dynamicPropertyNames().isEmpty()) {
-    return true;
-  }
   const std::optional<QString> text = asQString(value);
   if (!text) {
     return false;

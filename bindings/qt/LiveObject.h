@@ -37,12 +37,16 @@ class LiveObject : public HostObject {
   bool set(Property property, const Value& value) final;
   std::optional<Value> getIndexed(Property property, std::int32_t index) final;
   bool setIndexed(Property property, std::int32_t index, const Value& value) final;
+  bool appendText(Property property, Text& text) final;
+  bool assignText(Property property, TextView text) final;
   const void* identity() const noexcept override;
 
  protected:
   // Called only while the object lives. Those of this class fail.
   virtual std::optional<Value> read(Property property) = 0;
-  virtual bool write(Property property, const Value& value) = 0;
+  virtual bool write(Property property, const Value& value);
+  /// Writes Caption or ToolTipText.
+  virtual bool writeText(Property property, const QString& text) = 0;
   virtual std::optional<Value> readIndexed(Property property, std::int32_t index);
   virtual bool writeIndexed(Property property, std::int32_t index, const Value& value);
 

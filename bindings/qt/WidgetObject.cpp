@@ -49,14 +49,6 @@ std::optional<Value> WidgetObject::read(Property property) {
 
 bool WidgetObject::write(Property property, const Value& value) {
   switch (property) {
-    case Property::Caption: {
-      const std::optional<QString> text = asQString(value);
-      return text && setWidgetCaption(widget(), kind_, *text);
-    }
-    case Property::ToolTipText: {
-      const std::optional<QString> text = asQString(value);
-      return text && setWidgetToolTip(widget(), kind_, *text);
-    }
     case Property::Left:
       return movable() && setLeft(widget(), value);
     case Property::Width:
@@ -64,6 +56,11 @@ bool WidgetObject::write(Property property, const Value& value) {
     default:
       return false;
   }
+}
+
+bool WidgetObject::writeText(Property property, const QString& text) {
+  return property == Property::Caption ? setWidgetCaption(widget(), kind_, text)
+                                       : setWidgetToolTip(widget(), kind_, text);
 }
 
 }  // namespace kob::qt

@@ -16,6 +16,7 @@ class WidgetObject : public LiveObject {
  protected:
   std::optional<Value> read(Property property) override;
   bool write(Property property, const Value& value) override;
+  bool writeText(Property property, const QString& text) override;
 
   QWidget& widget() const noexcept { return *static_cast<QWidget*>(live()); }
   Kind kind() const noexcept { return kind_; }

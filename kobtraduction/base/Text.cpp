@@ -32,14 +32,15 @@ Word upperAscii(Word word) noexcept {
   return word ^ (isLower >> 2);
 }
 
-Word upperWord(const char16_t* units) noexcept {
-  const Word word = loadWord(units);
-  if (isAscii(word)) {
-    return upperAscii(word);
-  }
+Word upperOther(const char16_t* units) noexcept {
   char16_t folded[unitsPerWord];
   std::transform(units, units + unitsPerWord, folded, upperUnit);
   return loadWord(folded);
+}
+
+inline Word upperWord(const char16_t* units) noexcept {
+  const Word word = loadWord(units);
+  return isAscii(word) ? upperAscii(word) : upperOther(units);
 }
 
 /// The last units of a text, fewer than a word holds, filled up with zeros.

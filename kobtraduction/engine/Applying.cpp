@@ -18,7 +18,7 @@ void traduitControle(const KOBModeleTraduction& model, const HostRef& control, s
                      TextView module) {
   // Skip mode.
   Text tag;
-  skip(tag, readText(control, Property::Tag));
+  appendText(tag, control, Property::Tag);
   const TagMarkers markers = readMarkers(tag);
   if (isExcluded(markers.context)) {
     return;
@@ -62,7 +62,7 @@ void traduitDialog(const KOBModeleTraduction& model, const HostRef& form, std::i
       skip(shown, readBoolean(control, Property::Visible));
     }
     Text tag;
-    skip(tag, readText(control, Property::Tag));
+    appendText(tag, control, Property::Tag);
     const TagMarkers markers = readMarkers(tag);
     if (isExcluded(markers.context)) {
       continue;

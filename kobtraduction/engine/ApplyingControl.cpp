@@ -125,12 +125,10 @@ void translate(const KOBCellTraduction& cell, const HostRef& control, std::int32
     }
   }
 
-  // Skip mode. The host may change the model while it takes a value, so both values are made before the
-  // writes.
-  const Value caption(texts.caption);
-  const Value toolTip(texts.toolTip);
+  // Skip mode. The host may change the model while it takes the caption, so the tool tip is copied before.
+  const Text toolTip(texts.toolTip);
   if (!keepCaption && texts.hasCaption) {
-    write(control, Property::Caption, caption);
+    write(control, Property::Caption, texts.caption);
   }
   if (!keepToolTip && texts.hasToolTip) {
     write(control, Property::ToolTipText, toolTip);

@@ -22,9 +22,7 @@ inline void appendIndex(Text& name, const HostRef& object) {
 /// Appends the name by which an object stands in a path: its "Name", "" when that cannot be read, with its
 /// index.
 inline void appendElementName(Text& path, const HostRef& object) {
-  if (const std::optional<Text> name = readText(object, Property::Name)) {
-    path += *name;
-  }
+  appendText(path, object, Property::Name);
   appendIndex(path, object);
 }
 

@@ -36,7 +36,7 @@ const Text& ControlPaths::pathOf(const HostRef& control) {
   path_ += u'\\';
   appendElementName(path_, control);
   Text tag;
-  skip(tag, readText(control, Property::Tag));
+  appendText(tag, control, Property::Tag);
   const TextView context = readMarkers(tag).context;
   if (!context.empty()) {
     path_ += u'\\';

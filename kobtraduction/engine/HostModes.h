@@ -51,6 +51,11 @@ inline std::optional<Text> readText(const HostRef& object, Property property) {
   return value ? std::move(*value).asText() : std::nullopt;
 }
 
+/// Appends a text to another one; false when the operation failed.
+inline bool appendText(Text& target, const HostRef& object, Property property) {
+  return object != nullptr && object->appendText(property, target);
+}
+
 inline std::optional<double> readDouble(const HostRef& object, Property property) {
   const std::optional<Value> value = object != nullptr ? object->get(property) : std::nullopt;
   return value ? value->asDouble() : std::nullopt;
@@ -79,6 +84,14 @@ inline std::optional<HostRef> readObject(const HostRef& object, Property propert
 /// Writing; false when the operation failed. In skip mode the result is not looked at.
 inline bool write(const HostRef& object, Property property, const Value& value) {
   return object != nullptr && object->set(property, value);
+}
+
+inline bool write(const HostRef& object, Property property, TextView text) {
+  return object != nullptr && object->assignText(property, text);
+}
+
+inline bool write(const HostRef& object, Property property, const Text& text) {
+  return write(object, property, TextView(text));
 }
 
 }  // namespace kob

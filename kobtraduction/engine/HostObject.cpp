@@ -58,6 +58,23 @@ std::optional<std::vector<HostRef>> HostObject::enumerate() {
   return std::nullopt;
 }
 
+bool HostObject::appendText(Property property, Text& text) {
+  const std::optional<Value> value = get(property);
+  if (value && value->text() != nullptr) {
+    text += *value->text();
+    return true;
+  }
+  const std::optional<Text> converted = value ? value->asText() : std::nullopt;
+  if (converted) {
+    text += *converted;
+  }
+  return converted.has_value();
+}
+
+bool HostObject::assignText(Property property, TextView text) {
+  return set(property, Value(text));
+}
+
 const void* HostObject::identity() const noexcept {
   return this;
 }

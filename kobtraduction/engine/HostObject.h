@@ -66,6 +66,14 @@ class KOB_EXPORT HostObject {
   /// The members of a collection, in the host's order; a member may be null.
   virtual std::optional<std::vector<HostRef>> enumerate();
 
+  // Shortcuts for texts, which save the value in between. They answer as get and set do, by calling these
+  // unless a binding overrides them too.
+
+  /// Appends a property to `text`; false, and nothing appended, when it cannot be read as a text.
+  virtual bool appendText(Property property, Text& text);
+  /// The view need not outlive a change of the model: whoever runs an application's code takes a copy first.
+  virtual bool assignText(Property property, TextView text);
+
   /// The same for two references to one live object, different for any two others while both are held.
   virtual const void* identity() const noexcept;
 };
