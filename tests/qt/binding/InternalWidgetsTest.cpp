@@ -211,14 +211,15 @@ TEST(QtInternal, ButtonsInALineEdit) {
 }
 
 TEST(QtInternal, StackAndTabBarOfATabWidget) {
-  Holder<QTabWidget> holder;
-  auto* const bar = new QTabBar;
-  bar->setObjectName("bar");
   class Tabs : public QTabWidget {
    public:
+    using QTabWidget::QTabWidget;
     using QTabWidget::setTabBar;
   };
-  static_cast<Tabs*>(holder.widget)->setTabBar(bar);
+  Holder<Tabs> holder;
+  auto* const bar = new QTabBar;
+  bar->setObjectName("bar");
+  holder.widget->setTabBar(bar);
   holder.widget->addTab(add<QWidget>(holder.form, "page"), "t");
   EXPECT_THAT(holder.seen(), ElementsAre("outer", "outer/page"));
 }
