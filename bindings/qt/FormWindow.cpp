@@ -38,7 +38,7 @@ bool isFormWindow(const QWidget& widget) {
   }
   const ClassTraits traits = traitsOf(*widget.metaObject());
   const bool isPartOfOther = traits.ownedPart && widget.parentWidget() != nullptr;
-  return !traits.internal && !traits.dockGroup && traits.kind != Kind::Menu && !isPartOfOther;
+  return !traits.internal && !traits.dockGroup && !isPartOfOther;
 }
 
 }  // namespace kob::qt

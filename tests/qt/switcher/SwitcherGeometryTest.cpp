@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QResizeEvent>
+#include <QWindow>
 
 #include <gmock/gmock.h>
 
@@ -25,6 +26,19 @@ struct RightAlignedDialog : QDialog {
   void resizeEvent(QResizeEvent* event) override { btnFin->move(event->size().width() - 100, 10); }
 
   QPushButton* btnFin;
+};
+
+/// Moves its label by as much as it has grown.
+struct GrowingFrame : QGroupBox {
+  using QGroupBox::QGroupBox;
+
+  void resizeEvent(QResizeEvent* event) override {
+    if (label != nullptr && event->oldSize().isValid()) {
+      label->move(label->x() + event->size().width() - event->oldSize().width(), 0);
+    }
+  }
+
+  QLabel* label = nullptr;
 };
 
 struct SwitcherGeometry : testing::Test {
@@ -118,6 +132,15 @@ TEST_F(SwitcherGeometry, ARemovedFormIsNotPutBack) {
   EXPECT_EQ(form.btnOk->width(), 112) << "what stands there is the original now";
 }
 
+TEST_F(SwitcherGeometry, RemovingAndRegisteringAgainMakesThePresentGeometryTheOriginal) {
+  switcher.addForm(&form);
+  switcher.setLanguage(2);
+  switcher.removeForm(&form);
+  setWidthFactor(model, u"FrmClients\\btnOk", 2, 2);
+  switcher.addForm(&form);
+  EXPECT_EQ(form.btnOk->width(), 224);
+}
+
 TEST_F(SwitcherGeometry, AnExcludedControlIsPutBack) {
   switcher.addForm(&form);
   switcher.setLanguage(2);
@@ -179,9 +202,14 @@ TEST_F(SwitcherGeometry, AWidthThatWasWrittenIsPutBackAfterTheWindowWasMaximized
   switcher.addForm(&form);
   switcher.setLanguage(2);
   form.setWindowState(Qt::WindowMaximized);
+  QApplication::processEvents();
+  const int maximized = form.width();
+  ASSERT_NE(maximized, 500);
   switcher.setLanguage(1);
+  EXPECT_EQ(form.width(), maximized);
   form.setWindowState(Qt::WindowNoState);
-  form.resize(500, 300);
+  QApplication::processEvents();
+  ASSERT_EQ(form.width(), 500);
   switcher.refresh();
   EXPECT_EQ(form.width(), 400);
 }
@@ -202,6 +230,40 @@ TEST_F(SwitcherGeometry, WhatTheApplicationMovesAlongWithTheWindowMovesBackAlong
   EXPECT_EQ(dialog.btnFin->x(), 270);
   switcher.setLanguage(1);
   EXPECT_EQ(dialog.btnFin->x(), 300);
+}
+
+TEST_F(SwitcherGeometry, WhatTheApplicationMovesByADifferenceMovesBackByIt) {
+  QDialog dialog;
+  dialog.setObjectName(QStringLiteral("FrmCadre"));
+  auto* const frame = add<GrowingFrame>(dialog, "cadre");
+  frame->setGeometry(0, 0, 200, 50);
+  QLabel* const label = addLabel(*frame, "lbl", "x");
+  label->move(100, 0);
+  frame->label = label;
+  model.UpdateWithForm(hostForm(&dialog));
+  frame->setTitle(QStringLiteral("x"));
+  model.UpdateWithForm(hostForm(&dialog));
+  setWidthFactor(model, u"FrmCadre\\cadre", 2, 1.5);
+  setLeftFactor(model, u"FrmCadre\\cadre\\lbl", 2, 1.1);
+  dialog.show();
+  switcher.addForm(&dialog);
+  switcher.setLanguage(2);
+  EXPECT_EQ(label->x(), 220);
+  switcher.setLanguage(1);
+  EXPECT_EQ(frame->width(), 200);
+  EXPECT_EQ(label->x(), 100);
+}
+
+TEST_F(SwitcherGeometry, AWidthThatWasOnceWrittenIsTheUsersOwnLater) {
+  switcher.addForm(&form);
+  switcher.setLanguage(2);
+  ASSERT_EQ(form.width(), 500);
+  switcher.setLanguage(1);
+  form.resize(500, 300);
+  form.btnOk->resize(112, 30);
+  switcher.refresh();
+  EXPECT_EQ(form.width(), 500);
+  EXPECT_EQ(form.btnOk->width(), 112);
 }
 
 /// Forms whose window grows with its texts.
@@ -284,6 +346,17 @@ TEST_F(LaidOutGeometry, AWindowThatNeverGotASizeIsScaledFromTheOneThatItWouldBeS
   EXPECT_EQ(form.width(), natural * 2);
   switcher.setLanguage(1);
   EXPECT_EQ(form.width(), natural);
+}
+
+TEST_F(LaidOutGeometry, TheSizeThatTheWindowSystemGaveIsTheOneThatIsScaled) {
+  setWidthFactor(model, u"FrmLayout", 4, 2);
+  form.show();
+  form.windowHandle()->resize(250, 100);
+  QApplication::processEvents();
+  ASSERT_EQ(form.width(), 250);
+  switcher.addForm(&form);
+  switcher.setLanguage(4);
+  EXPECT_EQ(form.width(), 500);
 }
 
 TEST_F(LaidOutGeometry, WhatTheUserResizedStays) {

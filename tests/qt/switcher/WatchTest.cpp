@@ -17,6 +17,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace kob::qt::live {
@@ -208,6 +209,26 @@ TEST_F(Watch, MenusAreNoForms) {
   translateTitle(menu);
   menu.popup(QPoint());
   EXPECT_EQ(menu.title(), QStringLiteral("original"));
+}
+
+TEST_F(Watch, ATornOffMenuIsNoForm) {
+  QMainWindow window;
+  QMenu menu(&window);
+  menu.setTitle(QStringLiteral("original"));
+  menu.addAction(QStringLiteral("x"));
+  menu.setTearOffEnabled(true);
+  std::int32_t erreur = 0;
+  model.Racine()->AddCtrl(u"QTornOffMenu", u"", u"original", 0, 1, erreur, u"", u"");
+  setCaption(model, u"QTornOffMenu", 2, u"translated");
+  switcher.watchApplication();
+  switcher.setLanguage(2);
+  menu.showTearOffMenu(QPoint());
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto tornOff = std::find_if(windows.begin(), windows.end(), [](const QWidget* widget) {
+    return widget->inherits("QTornOffMenu") && widget->isVisible();
+  });
+  ASSERT_NE(tornOff, windows.end());
+  EXPECT_EQ((*tornOff)->windowTitle(), QStringLiteral("original"));
 }
 
 TEST_F(Watch, TheListThatAComboBoxDropsIsNoForm) {
