@@ -36,9 +36,8 @@ bool isFormWindow(const QWidget& widget) {
   if (name.startsWith(QLatin1String("qt_")) || name.startsWith(QLatin1String("_q_"))) {
     return false;
   }
-  const ClassTraits traits = traitsOf(*widget.metaObject());
-  const bool isPartOfOther = traits.ownedPart && widget.parentWidget() != nullptr;
-  return !traits.internal && !traits.dockGroup && !isPartOfOther;
+  const bool isPartOfOther = widget.parentWidget() != nullptr && traitsOf(*widget.metaObject()).ownedPart;
+  return !isPartOfOther;
 }
 
 }  // namespace kob::qt
