@@ -77,8 +77,8 @@ inline std::optional<bool> readBoolean(const HostRef& object, Property property)
 }
 
 inline std::optional<HostRef> readObject(const HostRef& object, Property property) {
-  const std::optional<Value> value = object != nullptr ? object->get(property) : std::nullopt;
-  return value ? value->asObject() : std::nullopt;
+  std::optional<Value> value = object != nullptr ? object->get(property) : std::nullopt;
+  return value ? std::move(*value).asObject() : std::nullopt;
 }
 
 /// Writing; false when the operation failed. In skip mode the result is not looked at.

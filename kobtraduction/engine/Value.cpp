@@ -155,7 +155,14 @@ std::optional<bool> Value::asBoolean() const {
   return number ? std::optional<bool>(*number != 0) : std::nullopt;
 }
 
-std::optional<HostRef> Value::asObject() const {
+std::optional<HostRef> Value::asObject() && {
+  if (HostRef* const object = std::get_if<HostRef>(&value_)) {
+    return std::move(*object);
+  }
+  return std::as_const(*this).asObject();
+}
+
+std::optional<HostRef> Value::asObject() const& {
   if (isNothing()) {
     return HostRef();
   }

@@ -47,7 +47,8 @@ class KOB_EXPORT Value {
   /// A number is true unless it is 0; a text may also read "True" or "False", in any case.
   std::optional<bool> asBoolean() const;
   /// An object, or null for nothing; empty for every other value.
-  std::optional<HostRef> asObject() const;
+  std::optional<HostRef> asObject() const&;
+  std::optional<HostRef> asObject() &&;
 
  private:
   std::variant<std::monostate, bool, std::int32_t, double, Text, HostRef> value_;
