@@ -3,6 +3,8 @@
 #include "Suite.h"
 #include "TranslatedModel.h"
 
+#include <kobtraductionqt/KOBTraductionQt.h>
+
 #include <QTemporaryDir>
 
 #include <stdexcept>
@@ -61,6 +63,26 @@ void contestAtSize(int controls, Placing placing, const std::function<void(Conte
   run(contest);
 }
 
+/// How much of the time goes where.
+void contestOfSteps(const std::function<void(Contest&)>& run) {
+  constexpr int controls = 1000;
+  const WidgetForm form(controls, 10, Placing::Fixed);
+  Component component(form);
+  kob::KOBModeleTraduction empty;
+  BareSetters floor(form);
+  Contest contest("Apply, steps", std::to_string(controls));
+  contest.setPasses(passes);
+  contest.setSettle(&WidgetForm::settle);
+  contest.add("TraduitDialog", controls, [&](int pass) { component.apply(languageOf(pass)); });
+  contest.add("with an empty model", controls,
+              [&](int pass) { empty.TraduitDialog(kob::qt::hostForm(form.window()), languageOf(pass)); });
+  contest.add("walk of the form alone", controls, [&](int) {
+    benchmark::DoNotOptimize(kob::qt::hostForm(form.window())->get(kob::Property::Controls));
+  });
+  contest.add("bare setters", controls, [&](int pass) { floor.apply(languageOf(pass)); });
+  run(contest);
+}
+
 /// That the time for one control does not depend on how many there are.
 void contestOfSizes(const std::function<void(Contest&)>& run) {
   const WidgetForm large(10000, 10, Placing::Fixed);
@@ -93,6 +115,7 @@ void addApplying(Suite& suite) {
                 [controls, placing](const auto& run) { contestAtSize(controls, placing, run); });
     }
   }
+  suite.add("Apply/steps", [](const auto& run) { contestOfSteps(run); });
   if (!suite.settings().quick) {
     suite.add("Apply/growth", [](const auto& run) { contestOfSizes(run); });
   }
