@@ -137,9 +137,9 @@ bool TabbedObject::writeText(Property property, const QString& text) {
     return false;
   }
   if (property == Property::Caption) {
-    setText(current(), text);
+    writeTextOf(current(), text);
   } else {
-    setToolTip(current(), text);
+    writeToolTipOf(current(), text);
   }
   return true;
 }
