@@ -247,6 +247,13 @@ TEST_F(CellHarvestTest, UpdateComparesTextsExactlyAndEntryNamesIgnoringCase) {
   EXPECT_TRUE(treeIs("A control left=7 width=8\n  .CAPTION \"ok\""));
 }
 
+TEST_F(CellHarvestTest, UpdateComparesAndChangesTheFirstEntryOfAName) {
+  givenModel("A control left=1 width=1\n  .Caption \"a\"\n  .CAPTION \"b\"");
+  EXPECT_EQ(update(u"A", u"a"), nullptr);
+  EXPECT_EQ(update(u"A", u"b"), cell(u"A"));
+  EXPECT_TRUE(treeIs("A control left=7 width=8\n  .Caption \"b\"\n  .CAPTION \"b\""));
+}
+
 TEST_F(CellHarvestTest, UpdateWithAnEmptyTextKeepsTheRecordedOne) {
   givenModel("A control left=1 width=1\n  .Caption \"Ok\"\n  .ToolTip \"Valide\"");
   messages.answer(true);
