@@ -23,6 +23,9 @@ class OrderedList {
   /// The item at a position; the reference lives until the list is changed.
   const T& Item(std::int32_t position) const { return items_[index(position)]; }
 
+  /// Makes room for so many items in one piece; nothing that can be asked for changes.
+  void Reserve(std::int32_t count) { items_.reserve(static_cast<std::size_t>(count)); }
+
   void Add(T item) { items_.push_back(std::move(item)); }
 
   /// Inserts in front of the item at `before`.

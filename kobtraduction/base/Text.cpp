@@ -92,6 +92,11 @@ bool equalToUpper(TextView text, TextView uppered) noexcept {
 }
 
 bool lessUpper(TextView a, TextView b) noexcept {
+  // Siblings often begin alike.
+  while (a.size() >= unitsPerWord && b.size() >= unitsPerWord && upperWord(a.data()) == upperWord(b.data())) {
+    a.remove_prefix(unitsPerWord);
+    b.remove_prefix(unitsPerWord);
+  }
   return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
                                       [](char16_t x, char16_t y) { return upperUnit(x) < upperUnit(y); });
 }

@@ -23,6 +23,7 @@ T& required(const std::shared_ptr<T>& object) {
 
 std::shared_ptr<FactorList> unchangedFactors() {
   auto list = std::make_shared<FactorList>();
+  list->Reserve(Global_Util::NbLangues());
   for (std::int32_t i = Global_Util::NbLangues(); i > 0; --i) {
     list->Add(Factor());
   }
@@ -168,6 +169,8 @@ void KOBCellTraduction::setTypeFeuille(std::int32_t kind) {
     traduction_ = std::make_shared<KOBTraductionObj>();
   } else if (kind == 2) {
     colTraduction_ = std::make_shared<EntryList>();
+    // A caption and a tool tip.
+    colTraduction_->Reserve(2);
     colWidth_ = unchangedFactors();
     colLeft_ = unchangedFactors();
   }

@@ -6,6 +6,7 @@
 namespace kob {
 
 KOBTraductionObj::KOBTraductionObj() : colTraduction_(std::make_shared<TextList>()) {
+  colTraduction_->Reserve(Global_Util::NbLangues());
   for (std::int32_t i = Global_Util::NbLangues(); i > 0; --i) {
     colTraduction_->AddView({});
   }

@@ -15,6 +15,10 @@ std::size_t TextList::index(std::int32_t position) const {
   return static_cast<std::size_t>(position) - 1;
 }
 
+void TextList::Reserve(std::int32_t count) {
+  texts_.reserve(static_cast<std::size_t>(count));
+}
+
 void TextList::Add(TextView text) {
   texts_.push_back(StoredText(text));
 }

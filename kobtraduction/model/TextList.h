@@ -27,6 +27,9 @@ class KOB_EXPORT TextList {
   /// The text at a position; the view lives until the list is changed.
   TextView Item(std::int32_t position) const;
 
+  /// Makes room for so many items in one piece; nothing that can be asked for changes.
+  void Reserve(std::int32_t count);
+
   void Add(TextView text);
   /// Inserts in front of the item at `before`.
   void Add(TextView text, std::int32_t before);
