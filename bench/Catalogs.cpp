@@ -63,7 +63,7 @@ QString compileQtCatalog(const std::vector<Message>& messages, const QString& fo
   }
   ts += context != nullptr ? "</context>\n</TS>\n" : "</TS>\n";
   const QString source = folder + '/' + name + ".ts";
-  const QString compiled = folder + '/' + name + ".qm";
+  QString compiled = folder + '/' + name + ".qm";
   const QString lrelease =
       QStandardPaths::findExecutable("lrelease", {QLibraryInfo::path(QLibraryInfo::BinariesPath)});
   if (lrelease.isEmpty() || !writeFile(source, ts) ||

@@ -62,6 +62,7 @@ LookupTree LookupTree::wide(int entries) {
 
 std::vector<Leaf> LookupTree::hotLeaves(int count) const {
   std::vector<Leaf> chosen;
+  chosen.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) {
     chosen.push_back(leaves_[static_cast<std::size_t>(i) * leaves_.size() / static_cast<std::size_t>(count)]);
   }

@@ -130,7 +130,7 @@ CellRef KOBCellTraduction::AddCtrl(TextView nom, TextView tooltip, TextView capt
   if (typeCell_ == 2) {
     setTypeCell(1);
   }
-  const CellRef known = GetCell(nom);
+  CellRef known = GetCell(nom);
   if (known == nullptr && !contexte.empty()) {
     std::int32_t ignored = 0;
     const CellRef node = AddNoeuds(nom, &ignored, {});

@@ -38,7 +38,7 @@ CellRef moduleCell(const KOBModeleTraduction& model, TextView module) {
 /// The form's own cell, made or brought up to date. The form's tag is its context as it stands, and its tool
 /// tip is not recorded.
 CellRef formCell(const CellRef& parent, const HostRef& form, const Text& formName) {
-  const CellRef known = mustBeSet(parent).GetCell(formName);
+  CellRef known = mustBeSet(parent).GetCell(formName);
   const Text caption = must(readText(form, Property::Caption));
   const Text tag = must(readText(form, Property::Tag));
   const std::int32_t width = positionIndicator(must(readDouble(form, Property::Width)));

@@ -40,8 +40,8 @@ TEST(Failure, IsCaughtAsAStandardExceptionAcrossTheLibrarysBorder) {
 
 TEST(Failure, ACopyTellsTheSame) {
   const Failure original(FailureKind::ObjectNotSet);
-  const Failure copy(
-      original);  // NOLINT(performance-unnecessary-copy-initialization): the copy is the subject
+  // The copy is the subject. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+  const Failure copy(original);
   EXPECT_EQ(copy.kind(), original.kind());
   EXPECT_STREQ(copy.what(), original.what());
 }

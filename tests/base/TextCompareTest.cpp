@@ -62,6 +62,7 @@ TEST(HashUpper, IsEqualForTextsThatDifferInCaseOnly) {
 
 TEST(HashUpper, TellsMostOtherTextsApart) {
   std::vector<std::uint32_t> hashes;
+  hashes.reserve(2000);
   for (int i = 0; i < 2000; ++i) {
     hashes.push_back(hashUpper(u"Label" + decimal(i)));
   }

@@ -13,12 +13,13 @@ class LinearityTest : public EngineTest {
     std::string text = "form FrmMain\n";
     std::string indent = "  ";
     for (int level = 0; level < depth; ++level) {
-      text += indent + "frame Level" + std::to_string(level) + "\n";
+      text.append(indent).append("frame Level").append(std::to_string(level)).append("\n");
       indent += "  ";
     }
     for (int i = 0; i < controls; ++i) {
       const std::string number = std::to_string(i);
-      text += indent + "label L" + number + " Caption=\"" + number + "\" ToolTipText=\"t\" tag=\"[C]\"\n";
+      text.append(indent).append("label L").append(number).append(" Caption=\"").append(number);
+      text.append("\" ToolTipText=\"t\" tag=\"[C]\"\n");
     }
     given(text);
   }

@@ -80,7 +80,7 @@ std::vector<std::string> goldenCases() {
 }
 
 std::string reasonToSkip(const std::string& name, std::string_view hostKind) {
-  const std::string only = readFile(folderOf(name) / "only").value_or("");
+  std::string only = readFile(folderOf(name) / "only").value_or("");
   if (only.empty() || std::string_view(only).starts_with(hostKind)) {
     return {};
   }

@@ -247,7 +247,7 @@ std::string HostEdits::compareAll() const {
       return "contents";
     }
     for (std::size_t i = 0; i < stands.size(); ++i) {
-      const std::string wrong = compareItem(*account, static_cast<int>(i));
+      std::string wrong = compareItem(*account, static_cast<int>(i));
       if (!wrong.empty()) {
         return wrong;
       }

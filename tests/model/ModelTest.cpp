@@ -8,7 +8,7 @@ class Model : public ModelTest {};
 
 TEST_F(Model, StartsWithAnEmptyRootNode) {
   const KOBModeleTraduction model;
-  const CellRef root = model.Racine();
+  const CellRef& root = model.Racine();
   ASSERT_NE(root, nullptr);
   EXPECT_EQ(root->nom(), u"RACINE");
   EXPECT_EQ(root->Alias(), u"");

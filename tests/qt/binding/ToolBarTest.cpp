@@ -36,6 +36,7 @@ class QtToolBar : public testing::Test {
   std::vector<HostRef> buttons() { return members(control(form, "bar"), Property::Buttons); }
   std::vector<std::string> keys(const std::vector<HostRef>& records) {
     std::vector<std::string> all;
+    all.reserve(records.size());
     for (const HostRef& record : records) {
       all.push_back(text(record, Property::Key));
     }
