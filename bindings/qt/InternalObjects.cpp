@@ -29,11 +29,10 @@ namespace kob::qt {
 
 namespace {
 
-// Classes that are private to the toolkit, so only their names are known.
+// Classes that are private to the toolkit, so only their names are known. Pop-ups are not among them: they
+// are windows.
 constexpr const char* internalClassNames[] = {
-    "QComboBoxPrivateContainer",  // a combo box's pop-up
-    "QCalendarPopup",             // a date edit's
-    "QLineEditIconButton",        // the buttons inside a line edit; their actions are the controls
+    "QLineEditIconButton",  // the buttons inside a line edit; their actions are the controls
     "QTableCornerButton",
     "CloseButton",        // on a tab
     "QMovableTabWidget",  // the picture of a tab that is dragged
@@ -42,9 +41,7 @@ constexpr const char* internalClassNames[] = {
     "QToolBarSeparator",
     "QDockWidgetTitleButton",
     "QSplitterHandle",
-    "QColumnViewGrip",
     "QTornOffMenu",
-    "QTipLabel",               // a tool tip while it is shown
     "QMdi::ControlContainer",  // the buttons of a maximised sub-window
     "QMdi::ControlLabel",
     "QMdi::ControllerWidget",
@@ -61,7 +58,7 @@ bool hasInternalName(const QString& name) {
 // Internal objects below which everything is the toolkit's, whatever its name.
 bool isClosedName(const QString& name) {
   return name.startsWith(u"qt_calendar_") || name == u"qt_toolbar_ext_button" ||
-         name == u"qt_menubar_ext_button" || name == u"qt_edit_menu";
+         name == u"qt_menubar_ext_button";
 }
 
 bool isInternalMenu(const WidgetPlace& place) {

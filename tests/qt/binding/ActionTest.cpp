@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QDialog>
+#include <QDockWidget>
 #include <QFrame>
 #include <QLabel>
 #include <QMainWindow>
@@ -94,6 +95,14 @@ TEST(QtAction, OfAnotherFormBelongsToThatForm) {
   EXPECT_THAT(controls(window), ElementsAre("open"));
 }
 
+TEST(QtAction, OfADockWidgetWithoutAFormBelongsToTheDockWidget) {
+  QDockWidget dock;
+  QDialog form;
+  form.addAction(add<QAction>(dock, "action"));
+  EXPECT_THAT(controls(form), ElementsAre());
+  EXPECT_THAT(controls(dock), ElementsAre("action"));
+}
+
 TEST(QtAction, OfAChildDialogBelongsToTheDialog) {
   QMainWindow window;
   QDialog dialog(&window);
@@ -122,13 +131,13 @@ TEST(QtAction, MenuThatIsNobodysChildIsFoundWhereItIsShown) {
 
 TEST(QtAction, WidgetInAMenuStandsInTheForm) {
   QDialog form;
-  auto* const menu = add<QMenu>(form, "menu");
+  auto* const menu = add<QMenu>(*add<QFrame>(form, "frame"), "menu");
   auto* const holder = new QWidgetAction(menu);
   auto* const label = new QLabel;
   label->setObjectName("label");
   holder->setDefaultWidget(label);
   menu->addAction(holder);
-  EXPECT_THAT(controls(form), ElementsAre("menu", "label"));
+  EXPECT_THAT(controls(form), ElementsAre("frame", "menu", "label"));
   EXPECT_EQ(object(control(form, "label"), Property::Container)->identity(), hostForm(&form)->identity());
 }
 

@@ -87,6 +87,21 @@ TEST(QtControls, PagesKeepTheOrderOfTheirNumbersWhicheverIsShown) {
   EXPECT_EQ(text(control(form, "tabs/QWidget(1)"), Property::ToolTipText), "second");
 }
 
+TEST(QtControls, PagesStandInTheOrderOfTheirNumbersHoweverTheyCame) {
+  QDialog form;
+  auto* const tabs = add<QTabWidget>(form, "tabs");
+  auto* const box = add<QToolBox>(form, "box");
+  for (const char* const name : {"last", "first"}) {
+    auto* const page = new QWidget;
+    page->setObjectName(name);
+    tabs->insertTab(0, page, "t");
+    auto* const item = new QLabel;
+    item->setObjectName(name);
+    box->insertItem(0, item, "t");
+  }
+  EXPECT_THAT(controls(form), ElementsAre("tabs", "tabs/first", "tabs/last", "box", "box/first", "box/last"));
+}
+
 TEST(QtControls, SubWindowsKeepTheirOrderWhicheverIsActive) {
   QDialog form;
   auto* const area = add<QMdiArea>(form, "area");

@@ -108,6 +108,7 @@ TEST(QtInternal, HeadersAndCornerButtonOfATable) {
   Holder<QTableWidget> holder;
   holder.has<QAbstractButton>("QTableCornerButton");
   holder.widget->horizontalHeader()->setObjectName("header");
+  holder.widget->findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)->setObjectName("corner");
   EXPECT_THAT(holder.seen(), ElementsAre("outer"));
 }
 
