@@ -18,6 +18,8 @@ namespace kob::qt {
 /// answers "failed" to everything. A form shows the controls that it has at the time "Controls" is read.
 KOB_QT_EXPORT HostRef hostForm(QWidget* form);
 /// A control is seen as part of the form that holds it: of `form`, or when that is null of its own window.
+/// What is no control of that form (an internal widget, a widget elsewhere) gives a null reference. Each call
+/// walks the form; for many controls read the form's "Controls" once.
 KOB_QT_EXPORT HostRef hostControl(QWidget* control, QWidget* form = nullptr);
 KOB_QT_EXPORT HostRef hostControl(QAction* action, QWidget* form = nullptr);
 
