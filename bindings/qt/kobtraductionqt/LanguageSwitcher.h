@@ -51,7 +51,7 @@ class KOB_QT_EXPORT LanguageSwitcher final : public QObject {
   /// Applies the present language again, after texts of the model were edited.
   void refresh();
 
- signals:
+ Q_SIGNALS:
   /// After every registered form shows the new language.
   void languageChanged(int langue);
 
