@@ -5,7 +5,7 @@ declare -A packages=(
   [build]="g++ cmake ninja-build ccache qt6-base-dev qt6-tools-dev libqt6opengl6-dev
            qt6-l10n-tools libcli11-dev libpugixml-dev"
   [screen]="xvfb xauth fonts-dejavu-core"
-  [test]="libgtest-dev libgmock-dev librapidcheck-dev libicu-dev pkg-config python3 git unicode-data
+  [test]="libgtest-dev libgmock-dev librapidcheck-dev libicu-dev pkg-config python3 git unicode-data xdotool x11-utils
           clang-14"
   [lint]="clang-14 clang-format-14 clang-tidy-14 shellcheck python3 git unicode-data"
   [bench]="libbenchmark-dev gettext"
