@@ -25,7 +25,8 @@ run_ctest() {
   rm -rf "$cases" "$junit"
   mkdir -p "$cases"
   on_virtual_screen ctest --test-dir "build/$preset" --output-on-failure -j "$(nproc)" --timeout 600 \
-    --no-tests=error --output-junit "$junit" >"$log" 2>&1 || grep -vE '^ *[0-9]+/[0-9]+ .* Passed ' "$log" || true
+    --no-tests=error --output-junit "$junit" >"$log" 2>&1 ||
+    grep -vE '^ *[0-9]+/[0-9]+ .* Passed |^ +Start +[0-9]+:|^\[ RUN  |^\[       OK |^\[-----' "$log" || true
   # shellcheck disable=SC2046
   counted $(tools/results.py "$junit" "$cases")
 }
