@@ -44,6 +44,9 @@ KOB_EXPORT bool lessUpper(TextView a, TextView b) noexcept;
 /// A hash of the upper-cased text: equal for texts that are equalUpper.
 KOB_EXPORT std::uint32_t hashUpper(TextView text) noexcept;
 
+/// The text in UTF-8; an unpaired surrogate becomes U+FFFD.
+KOB_EXPORT std::string toUtf8(TextView text);
+
 /// A number in decimal: no leading zeros, no blanks, "-" in front of a negative one.
 KOB_EXPORT Text decimal(std::int64_t number);
 

@@ -14,6 +14,11 @@ namespace kob::Global_Util {
 KOB_EXPORT std::int32_t NbLangues() noexcept;
 KOB_EXPORT void setNbLangues(std::int32_t count) noexcept;
 
+/// Whether every record of the present or last save or load succeeded. Save and Load set it; a record that
+/// fails clears it.
+KOB_EXPORT bool PersistOk() noexcept;
+KOB_EXPORT void setPersistOk(bool ok) noexcept;
+
 /// Where the component shows its messages. Never null: without a binding, notices go to standard error and a
 /// question is answered No, which leaves everything as it was.
 KOB_EXPORT MessageBoxes& messageBoxes() noexcept;

@@ -8,6 +8,7 @@
 #include <kobtraduction/model/CellList.h>
 #include <kobtraduction/model/Factor.h>
 #include <kobtraduction/model/KOBTraductionObj.h>
+#include <kobtraduction/persistence/PersistStream.h>
 
 #include <cstdint>
 #include <memory>
@@ -32,7 +33,8 @@ using FactorList = OrderedList<Factor>;
 /// owns what is below it; parentcell is a back reference and reads as none once the parent is gone. A cell
 /// belongs to the thread that made it. Failures: see kobtraduction/base/Failure.h; a list that is none is
 /// ObjectNotSet.
-class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCellTraduction> {
+class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
+                                           public std::enable_shared_from_this<KOBCellTraduction> {
   struct Key {};
 
  public:
@@ -43,7 +45,7 @@ class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCell
   KOBCellTraduction(const KOBCellTraduction&) = delete;
   KOBCellTraduction& operator=(const KOBCellTraduction&) = delete;
   /// Releases what is below without recursion, however deep it is.
-  ~KOBCellTraduction();
+  ~KOBCellTraduction() override;
 
   /// The name by which the parent finds the cell, case ignored. The view lives until the name is changed.
   TextView nom() const noexcept { return nom_.text(); }
@@ -89,6 +91,12 @@ class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCell
                                                TextView AliasNoeud = {});
   std::shared_ptr<KOBCellTraduction> AddMessage(TextView NomMessage, TextView Message,
                                                 std::int32_t* erreur = nullptr, TextView AliasMessage = {});
+
+  // As an object that is saved with its model; defined in persistence/.
+  TextView getProgID() const noexcept override;
+  std::shared_ptr<ProgIdTable> getProgIdTable() override;
+  void write(PersistStream& stream) override;
+  void read(PersistStream& stream) override;
 
   // Internal: for the other classes and rooms of the component.
 
@@ -136,6 +144,9 @@ class KOB_EXPORT KOBCellTraduction : public std::enable_shared_from_this<KOBCell
   /// Makes a leaf a node; whether `name` is free among the children, else -2 in `erreur`.
   bool admits(TextView name, std::int32_t* erreur);
   void clearTranslations() noexcept;
+  /// What a record holds of a control cell.
+  void writeControl(PersistStream& stream) const;
+  void readControl(PersistStream& stream);
   /// The children, or ObjectNotSet.
   CellList& children() const;
   /// A child made by AddNoeuds or AddMessage: named and put in its place.

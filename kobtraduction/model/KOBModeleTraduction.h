@@ -5,6 +5,7 @@
 #include <kobtraduction/base/Text.h>
 #include <kobtraduction/engine/HostObject.h>
 #include <kobtraduction/model/KOBCellTraduction.h>
+#include <kobtraduction/persistence/PersistStream.h>
 
 #include <cstdint>
 #include <memory>
@@ -23,18 +24,18 @@ class PathMemo;
 ///
 /// A path is the names of cells below the root joined by "\"; case and empty segments do not count, and an
 /// empty path is the root.
-class KOB_EXPORT KOBModeleTraduction {
+class KOB_EXPORT KOBModeleTraduction final : public IKOBVBPersistStream {
  public:
   KOBModeleTraduction();
   KOBModeleTraduction(const KOBModeleTraduction&) = delete;
   KOBModeleTraduction& operator=(const KOBModeleTraduction&) = delete;
-  ~KOBModeleTraduction();
+  ~KOBModeleTraduction() override;
 
   /// The name of the translation file; a plain text that nothing checks.
   const Text& Fichier() const noexcept { return fichier_; }
   void setFichier(TextView Filename) { fichier_ = Filename; }
 
-  /// The root cell; never none.
+  /// The root cell; never none. Load replaces it.
   const std::shared_ptr<KOBCellTraduction>& Racine() const noexcept { return racine_; }
 
   /// The thread's language count.
@@ -47,6 +48,14 @@ class KOB_EXPORT KOBModeleTraduction {
   /// 2 to the language count can be chosen; any other value does nothing.
   void UpdateTestLangue(std::int32_t langue);
   void ClearLangue(std::int32_t langue);
+
+  /// Writes the model to a translation file / replaces the model by what a translation file holds, through
+  /// the persistence service (see FileManager.h). True when the service finished and no record failed. A
+  /// service that fails shows a box titled "KOBCN" with its description; the file, or the model, is then what
+  /// it was. A record that fails shows nothing: the rest is written or read without it. Save leaves Fichier
+  /// alone; Load sets it, and the thread's language count becomes the file's. Neither throws.
+  bool Save(TextView Filename);
+  bool Load(TextView Filename);
 
   /// Records the texts of a live form and of all its controls as language 1. A null form, like every failure
   /// the rules do not forgive, ends the call with the message "ERREUR " and a step marker; what was recorded
@@ -75,6 +84,12 @@ class KOB_EXPORT KOBModeleTraduction {
   /// has no item `langue`.
   Text GetTraduction(TextView path, std::int32_t langue, TextView nom = {}) const;
 
+  // As the object that a translation file holds; defined in persistence/.
+  TextView getProgID() const noexcept override;
+  std::shared_ptr<ProgIdTable> getProgIdTable() override;
+  void write(PersistStream& stream) override;
+  void read(PersistStream& stream) override;
+
   // Internal: for the other rooms of the component.
 
   /// GetCell without taking a reference; null when there is none.
@@ -86,6 +101,7 @@ class KOB_EXPORT KOBModeleTraduction {
   std::shared_ptr<KOBCellTraduction> racine_;
   /// Only ever a shortcut: it answers what a walk would find.
   std::unique_ptr<PathMemo> known_;
+  std::shared_ptr<ProgIdTable> progIds_;
   Text fichier_;
 };
 

@@ -5,6 +5,7 @@
 #include <kobtraduction/base/StoredText.h>
 #include <kobtraduction/base/Text.h>
 #include <kobtraduction/model/TextList.h>
+#include <kobtraduction/persistence/PersistStream.h>
 
 #include <cstdint>
 #include <memory>
@@ -18,7 +19,7 @@ namespace kob {
 ///
 /// Failures: reading an item that the list does not have is InvalidIndex, a list that is none is
 /// ObjectNotSet.
-class KOB_EXPORT KOBTraductionObj {
+class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream {
  public:
   /// One "" per language of the thread's language count, and no name.
   KOBTraductionObj();
@@ -34,6 +35,12 @@ class KOB_EXPORT KOBTraductionObj {
 
   /// Replaces the text of language `Index`; an Index outside 1..language count is ignored.
   void ChangeTraduction(TextView Traduction, std::int32_t Index);
+
+  // As an object that is saved with its model; defined in persistence/.
+  TextView getProgID() const noexcept override;
+  std::shared_ptr<ProgIdTable> getProgIdTable() override;
+  void write(PersistStream& stream) override;
+  void read(PersistStream& stream) override;
 
   // Internal: for the other classes and rooms of the component.
 

@@ -15,7 +15,9 @@ from pathlib import PurePosixPath
 from tree import Outcome, ROOT, cpp_files, read
 
 FLOOR = {"kobtraduction/engine/HostObject.h", "kobtraduction/engine/Value.h",
-         "kobtraduction/component/MessageBoxes.h", "kobtraduction/component/Global_Util.h"}
+         "kobtraduction/component/MessageBoxes.h", "kobtraduction/component/Global_Util.h",
+         "kobtraduction/persistence/FileManager.h", "kobtraduction/persistence/PersistStream.h",
+         "kobtraduction/persistence/PersistValue.h"}
 BELOW = {"base": {"base"},
          "model": {"base", "model"},
          "persistence": {"base", "model", "persistence"},

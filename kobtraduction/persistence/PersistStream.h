@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <kobtraduction/base/Export.h>
+#include <kobtraduction/base/OrderedList.h>
+#include <kobtraduction/base/Text.h>
+#include <kobtraduction/persistence/PersistValue.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace kob {
+
+/// The record of one object as the persistence service shows it to that object: a version and a sequence of
+/// typed values. Any operation may fail with an exception; the object then stops reading or writing. Used on
+/// the thread that called the service, during the call only.
+class KOB_EXPORT PersistStream {
+ public:
+  virtual ~PersistStream();
+
+  /// The version with which the record being read was written.
+  virtual std::int32_t Version() = 0;
+  /// Sets the version that is stored with the record being written.
+  virtual void setVersion(std::int32_t version) = 0;
+  /// Appends a value to the record being written. The service persists the object of an Object value in turn,
+  /// at a time of its choice before the save ends; an object met twice is one object in the file.
+  virtual void WriteValue(const PersistValue& value) = 0;
+  /// The next value of the record being read; it lives until the next call. The object of an Object value has
+  /// been made and filled already. Reading past the record's end fails.
+  virtual const PersistValue& ReadValue() = 0;
+
+  /// What keeps the characters of the texts that were read alive: an object may hold on to it and go on using
+  /// the views instead of copying them. Null (as here) when texts live no longer than the call says.
+  virtual std::shared_ptr<const void> image() const;
+};
+
+/// The class identifiers that may occur in an object's graph.
+using ProgIdTable = OrderedList<Text>;
+
+/// What the persistence service asks of an object. Neither operation lets a failure out: a record that cannot
+/// be written or read clears Global_Util::PersistOk, and the object keeps what it had read before.
+class KOB_EXPORT IKOBVBPersistStream {
+ public:
+  virtual ~IKOBVBPersistStream();
+
+  /// The class identifier by which the service makes such an object again; static storage.
+  virtual TextView getProgID() const noexcept = 0;
+  /// A new table of the classes in the object's graph; null for an object that is not saved by itself.
+  virtual std::shared_ptr<ProgIdTable> getProgIdTable() = 0;
+  virtual void write(PersistStream& stream) = 0;
+  virtual void read(PersistStream& stream) = 0;
+};
+
+}  // namespace kob

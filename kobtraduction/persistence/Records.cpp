@@ -1,0 +1,240 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobtraduction/base/Failure.h>
+#include <kobtraduction/component/Global_Util.h>
+#include <kobtraduction/model/KOBModeleTraduction.h>
+#include <kobtraduction/model/PathMemo.h>
+#include <kobtraduction/persistence/PersistStream.h>
+
+#include <exception>
+#include <memory>
+#include <typeinfo>
+#include <utility>
+
+namespace kob {
+
+namespace {
+
+constexpr TextView modelId = u"KOBTraduction.KOBModeleTraduction";
+constexpr TextView cellId = u"KOBTraduction.KOBCellTraduction";
+constexpr TextView entryId = u"KOBTraduction.KOBTraductionObj";
+
+// Stored with every record, so never edited: a record of another shape gets another number.
+constexpr std::int32_t modelVersion = 1;
+constexpr std::int32_t entryVersion = 1;
+constexpr std::int32_t cellVersion = 2;
+
+/// A record stops where it fails, and says so to nobody but the flag of the thread.
+template <class Steps>
+void guarded(Steps steps) {
+  try {
+    steps();
+  } catch (const std::exception&) {
+    Global_Util::setPersistOk(false);
+  }
+}
+
+template <class T>
+T& mustBeSet(const std::shared_ptr<T>& object) {
+  if (object == nullptr) {
+    throw Failure(FailureKind::ObjectNotSet);
+  }
+  return *object;
+}
+
+/// The object of a value as a cell or an entry; none for nothing.
+template <class T>
+std::shared_ptr<T> readObject(PersistStream& stream) {
+  const PersistRef& object = stream.ReadValue().toObject();
+  if (object == nullptr) {
+    return nullptr;
+  }
+  // Neither class has heirs, so comparing the classes is enough, and much cheaper than a search for them.
+  const IKOBVBPersistStream& read = *object;
+  if (typeid(read) != typeid(T)) {
+    throw Failure(FailureKind::TypeMismatch);
+  }
+  return std::static_pointer_cast<T>(object);
+}
+
+PersistValue factorValue(const FactorList& factors, std::int32_t language) {
+  const Factor& factor = factors.Item(language);
+  return factor.isDouble() ? PersistValue::ofDouble(factor.value()) : PersistValue::smallInteger(1);
+}
+
+Factor readFactor(PersistStream& stream) {
+  const PersistValue& value = stream.ReadValue();
+  const bool isUntouched = value.type() == PersistType::SmallInteger && value.integer() == 1;
+  return isUntouched ? Factor() : Factor(value.toDouble());
+}
+
+/// Only the sign is a choice of the user's: everything but -1 reads back as 1, which is what older files
+/// mean.
+std::int32_t readIndicator(PersistStream& stream) {
+  return stream.ReadValue().toLong() == -1 ? -1 : 1;
+}
+
+}  // namespace
+
+TextView KOBModeleTraduction::getProgID() const noexcept {
+  return modelId;
+}
+
+std::shared_ptr<ProgIdTable> KOBModeleTraduction::getProgIdTable() {
+  progIds_ = std::make_shared<ProgIdTable>();
+  for (const TextView id : {modelId, cellId, entryId}) {
+    progIds_->Add(Text(id));
+  }
+  return progIds_;
+}
+
+void KOBModeleTraduction::write(PersistStream& stream) {
+  guarded([&] {
+    stream.setVersion(modelVersion);
+    stream.WriteValue(PersistValue::ofLong(NbLangues()));
+    stream.WriteValue(PersistValue::object(racine_));
+  });
+}
+
+void KOBModeleTraduction::read(PersistStream& stream) {
+  guarded([&] {
+    stream.Version();
+    // The thread's count becomes the file's, also a smaller one, and nothing that exists is extended: what is
+    // read below is read with this count.
+    Global_Util::setNbLangues(stream.ReadValue().toLong());
+    std::shared_ptr<KOBCellTraduction> root = readObject<KOBCellTraduction>(stream);
+    mustBeSet(root);
+    racine_ = std::move(root);
+    treeChanged();
+  });
+}
+
+TextView KOBCellTraduction::getProgID() const noexcept {
+  return cellId;
+}
+
+std::shared_ptr<ProgIdTable> KOBCellTraduction::getProgIdTable() {
+  return nullptr;
+}
+
+void KOBCellTraduction::write(PersistStream& stream) {
+  guarded([&] {
+    stream.setVersion(cellVersion);
+    stream.WriteValue(PersistValue::string(nom()));
+    stream.WriteValue(PersistValue::string(Alias()));
+    stream.WriteValue(PersistValue::ofLong(TypeCell()));
+    if (TypeCell() == 1) {
+      const CellList& cells = mustBeSet(ColCell());
+      stream.WriteValue(PersistValue::ofLong(cells.Count()));
+      for (const auto& cell : cells) {
+        stream.WriteValue(PersistValue::object(cell));
+      }
+    }
+    stream.WriteValue(PersistValue::ofLong(TypeFeuille()));
+    if (TypeFeuille() == 2) {
+      writeControl(stream);
+    } else if (TypeFeuille() == 1) {
+      stream.WriteValue(PersistValue::object(Traduction()));
+    }
+    stream.WriteValue(PersistValue::ofBoolean(Contexte()));
+  });
+}
+
+void KOBCellTraduction::writeControl(PersistStream& stream) const {
+  stream.WriteValue(PersistValue::ofLong(m_left()));
+  stream.WriteValue(PersistValue::ofLong(m_width()));
+  const EntryList& entries = mustBeSet(ColTraduction());
+  stream.WriteValue(PersistValue::ofLong(entries.Count()));
+  for (const auto& entry : entries) {
+    stream.WriteValue(PersistValue::object(entry));
+  }
+  for (std::int32_t language = 1, last = Global_Util::NbLangues(); language <= last; ++language) {
+    // Width before left, the other way round than everywhere else: files have always been written so.
+    stream.WriteValue(factorValue(mustBeSet(ColWidth()), language));
+    stream.WriteValue(factorValue(mustBeSet(ColLeft()), language));
+  }
+}
+
+void KOBCellTraduction::read(PersistStream& stream) {
+  guarded([&] {
+    const std::int32_t version = stream.Version();
+    setnom(stream.ReadValue().toText());
+    setAlias(stream.ReadValue().toText());
+    setTypeCell(stream.ReadValue().toLong());
+    if (TypeCell() == 1) {
+      setColCell(std::make_shared<CellList>());
+      for (std::int32_t left = stream.ReadValue().toLong(); left > 0; --left) {
+        std::shared_ptr<KOBCellTraduction> cell = readObject<KOBCellTraduction>(stream);
+        mustBeSet(cell).setparentcell(shared_from_this());
+        ColCell()->Add(std::move(cell));
+      }
+    }
+    setTypeFeuille(stream.ReadValue().toLong());
+    if (TypeFeuille() == 1) {
+      setTraduction(readObject<KOBTraductionObj>(stream));
+    } else if (TypeFeuille() == 2) {
+      readControl(stream);
+    }
+    if (version == cellVersion) {
+      setContexte(stream.ReadValue().toBoolean());
+    }
+  });
+}
+
+void KOBCellTraduction::readControl(PersistStream& stream) {
+  setm_left(readIndicator(stream));
+  setm_width(readIndicator(stream));
+  const std::int32_t count = stream.ReadValue().toLong();
+  setColTraduction(std::make_shared<EntryList>());
+  for (std::int32_t i = 0; i < count; ++i) {
+    ColTraduction()->Add(readObject<KOBTraductionObj>(stream));
+  }
+  setColWidth(std::make_shared<FactorList>());
+  setColLeft(std::make_shared<FactorList>());
+  for (std::int32_t left = Global_Util::NbLangues(); left > 0; --left) {
+    ColWidth()->Add(readFactor(stream));
+    ColLeft()->Add(readFactor(stream));
+  }
+}
+
+TextView KOBTraductionObj::getProgID() const noexcept {
+  return entryId;
+}
+
+std::shared_ptr<ProgIdTable> KOBTraductionObj::getProgIdTable() {
+  return nullptr;
+}
+
+void KOBTraductionObj::write(PersistStream& stream) {
+  guarded([&] {
+    stream.setVersion(entryVersion);
+    stream.WriteValue(PersistValue::string(nom()));
+    for (std::int32_t language = 1, last = Global_Util::NbLangues(); language <= last; ++language) {
+      // Padded to the language count, and never cut short of it; what lies beyond is dropped.
+      const TextList& list = texts();
+      stream.WriteValue(PersistValue::string(language <= list.Count() ? list.Item(language) : TextView()));
+    }
+  });
+}
+
+void KOBTraductionObj::read(PersistStream& stream) {
+  guarded([&] {
+    stream.Version();
+    setnom(stream.ReadValue().toText());
+    setColTraduction(std::make_shared<TextList>());
+    const std::shared_ptr<const void> image = stream.image();
+    TextList& list = texts();
+    if (image != nullptr) {
+      list.setImage(image);
+    }
+    for (std::int32_t left = Global_Util::NbLangues(); left > 0; --left) {
+      const PersistValue& value = stream.ReadValue();
+      if (image != nullptr && value.type() == PersistType::String) {
+        list.AddView(value.text());
+      } else {
+        list.Add(value.toText());
+      }
+    }
+  });
+}
+
+}  // namespace kob
