@@ -7,6 +7,8 @@ Failure::~Failure() = default;
 
 const char* Failure::what() const noexcept {
   switch (kind_) {
+    case FailureKind::InvalidCall:
+      return "invalid call: this cannot be done with what was given";
     case FailureKind::InvalidIndex:
       return "invalid index: the position is outside 1..count of the list";
     case FailureKind::TypeMismatch:

@@ -10,6 +10,7 @@ namespace kob {
 /// What went wrong, in the terms that automation hosts know. The values are the run-time error numbers that
 /// such a host sees, so they are published and never change.
 enum class FailureKind : int {
+  InvalidCall = 5,        ///< an operation that cannot be done with what it was given
   InvalidIndex = 9,       ///< a position outside 1..count of a list
   TypeMismatch = 13,      ///< a value that does not convert to what is needed
   ObjectNotSet = 91,      ///< a member was asked of a reference to nothing

@@ -17,10 +17,13 @@
 namespace kob {
 
 class HostObject;
+class KOBModeleTraduction;
 using HostRef = std::shared_ptr<HostObject>;
 
 using EntryList = OrderedList<std::shared_ptr<KOBTraductionObj>>;
 using FactorList = OrderedList<Factor>;
+/// What a search has found, in the order found.
+using CellResults = OrderedList<std::shared_ptr<KOBCellTraduction>>;
 
 /// A node of the model's tree. A cell is a node with children or a leaf, and, independently of that, holds no
 /// translation, one message, or the named translations of a host control with a left and a width factor per
@@ -92,6 +95,12 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   std::shared_ptr<KOBCellTraduction> AddMessage(TextView NomMessage, TextView Message,
                                                 std::int32_t* erreur = nullptr, TextView AliasMessage = {});
 
+  /// Puts the top-level cells of another model under this cell; both trees hold them afterwards, and their
+  /// parent is this cell. A leaf becomes a node first. Fails with TypeMismatch when both sides have children,
+  /// as the added cells have no text to be compared by, and with InvalidCall, unchanged, when this cell
+  /// stands below one of the added ones.
+  void AddModele(KOBModeleTraduction& Modele);
+
   // As an object that is saved with its model; defined in persistence/.
   TextView getProgID() const noexcept override;
   std::shared_ptr<ProgIdTable> getProgIdTable() override;
@@ -114,6 +123,14 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   void UpdateNbLangues();
   void UpdateTestLangue(std::int32_t langue);
   void ClearLangue(std::int32_t langue);
+  /// The first step of the model's UpdateWithTraductionModele, for this cell and all below it.
+  void UpdateCellWithModele(const KOBModeleTraduction& tradmodel, std::int32_t langue);
+  /// Appends this cell and those below it, a cell before its children, when an entry's reference text
+  /// contains `text`, case ignored / when an entry has no text in `langue`; each cell once however many of
+  /// its entries do. An entry without an item 1 / `langue` fails with InvalidIndex; what was found before
+  /// stays.
+  void SearchString(TextView text, CellResults& results);
+  void SearchNonTraduit(std::int32_t langue, CellResults& results);
 
   /// A leaf control cell without entries, and a node without translations.
   static std::shared_ptr<KOBCellTraduction> createControl();
@@ -151,6 +168,8 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   CellList& children() const;
   /// A child made by AddNoeuds or AddMessage: named and put in its place.
   void insertChild(const std::shared_ptr<KOBCellTraduction>& child, TextView name, TextView alias);
+  /// Whether grafting the model here would make this cell stand below itself.
+  bool wouldHoldItself(const KOBModeleTraduction& added) const;
   void addHolder(CellList& list);
   void removeHolder(CellList& list) noexcept;
 

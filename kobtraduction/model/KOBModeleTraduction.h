@@ -73,6 +73,19 @@ class KOB_EXPORT KOBModeleTraduction final : public IKOBVBPersistStream {
   /// The same for one control.
   void TraduitControle(const HostRef& Ctrl, std::int32_t langue, TextView module = {});
 
+  /// Puts the top-level cells of another model under this one's root, which must have no children yet; see
+  /// KOBCellTraduction::AddModele for what happens else. Afterwards both models hold these cells: a text that
+  /// is changed in one is changed in the other.
+  void AddModele(KOBModeleTraduction& Modele);
+
+  /// Fills the gaps of this model's texts from the cells at the same paths of another one, in `langue`, or
+  /// with -1 in all languages from 2 up. Translations of a control are matched by their exact names. Then the
+  /// entries of this model with the same reference text, case ignored, take each other's texts for the
+  /// languages that they lack, never language 1. No text is ever overwritten and no cell is added. Fails with
+  /// InvalidIndex at an entry that lacks an item, ObjectNotSet where something is none; what was filled
+  /// before stays.
+  void UpdateWithTraductionModele(const KOBModeleTraduction& tradmodel, std::int32_t langue = -1);
+
   /// The cell at a path, or none.
   std::shared_ptr<KOBCellTraduction> GetCell(TextView path) const;
 
@@ -94,6 +107,16 @@ class KOB_EXPORT KOBModeleTraduction final : public IKOBVBPersistStream {
 
   /// GetCell without taking a reference; null when there is none.
   KOBCellTraduction* findCell(TextView path) const;
+  /// The second step of UpdateWithTraductionModele.
+  void CompleteIdentiques();
+  /// Six texts, whatever the language count: `text`, and for languages 2 to 6 what the entries with this
+  /// reference text, case ignored, have first, or "". Fails where an entry has no item 1 or lacks a text that
+  /// is looked for.
+  std::shared_ptr<TextList> GetTraductionsConnues(TextView text) const;
+  /// KOBCellTraduction's searches, over the whole tree, root included. Results that are none (null) are left
+  /// alone.
+  void SearchString(TextView text, CellResults* results) const;
+  void SearchNonTraduit(std::int32_t langue, CellResults* results) const;
 
  private:
   KOBCellTraduction* walkTo(TextView path) const;

@@ -9,10 +9,11 @@
 namespace kob {
 namespace {
 
-constexpr FailureKind everyKind[] = {FailureKind::InvalidIndex, FailureKind::TypeMismatch,
+constexpr FailureKind everyKind[] = {FailureKind::InvalidCall, FailureKind::InvalidIndex, FailureKind::TypeMismatch,
                                      FailureKind::ObjectNotSet, FailureKind::PropertyMissing};
 
 TEST(Failure, KindsCarryThePublishedRunTimeErrorNumbers) {
+  EXPECT_EQ(static_cast<int>(FailureKind::InvalidCall), 5);
   EXPECT_EQ(static_cast<int>(FailureKind::InvalidIndex), 9);
   EXPECT_EQ(static_cast<int>(FailureKind::TypeMismatch), 13);
   EXPECT_EQ(static_cast<int>(FailureKind::ObjectNotSet), 91);
@@ -30,7 +31,7 @@ TEST(Failure, DescribesEachKindInItsOwnWords) {
   for (const FailureKind kind : everyKind) {
     descriptions.insert(Failure(kind).what());
   }
-  EXPECT_EQ(descriptions.size(), 4U);
+  EXPECT_EQ(descriptions.size(), 5U);
   EXPECT_EQ(descriptions.count(""), 0U);
 }
 
