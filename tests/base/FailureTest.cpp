@@ -9,8 +9,9 @@
 namespace kob {
 namespace {
 
-constexpr FailureKind everyKind[] = {FailureKind::InvalidCall, FailureKind::InvalidIndex, FailureKind::TypeMismatch,
-                                     FailureKind::ObjectNotSet, FailureKind::PropertyMissing};
+constexpr FailureKind everyKind[] = {FailureKind::InvalidCall, FailureKind::InvalidIndex,
+                                     FailureKind::TypeMismatch, FailureKind::ObjectNotSet,
+                                     FailureKind::PropertyMissing};
 
 TEST(Failure, KindsCarryThePublishedRunTimeErrorNumbers) {
   EXPECT_EQ(static_cast<int>(FailureKind::InvalidCall), 5);
