@@ -17,7 +17,11 @@ from tree import Outcome, ROOT, cpp_files, read
 FLOOR = {"kobtraduction/engine/HostObject.h", "kobtraduction/engine/Value.h",
          "kobtraduction/component/MessageBoxes.h", "kobtraduction/component/Global_Util.h",
          "kobtraduction/persistence/FileManager.h", "kobtraduction/persistence/PersistStream.h",
-         "kobtraduction/persistence/PersistValue.h"}
+         "kobtraduction/persistence/PersistValue.h"} | {
+             f"kobtraduction/editor/{name}.h" for name in (
+                 "Button", "CheckBox", "ComboBox", "DialogWindow", "Frame", "ImageList", "Label", "ListBox", "MenuItem",
+                 "OptionButton", "PictureBox", "SaveFileDialog", "Slider", "TextBox", "TreeView", "Widget",
+                 "WidgetSet")}
 BELOW = {"base": {"base"},
          "model": {"base", "model"},
          "persistence": {"base", "model", "persistence"},
