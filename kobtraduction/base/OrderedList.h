@@ -23,8 +23,13 @@ class OrderedList {
   /// The item at a position; the reference lives until the list is changed.
   const T& Item(std::int32_t position) const { return items_[index(position)]; }
 
-  /// Makes room for so many items in one piece; nothing that can be asked for changes.
-  void Reserve(std::int32_t count) { items_.reserve(static_cast<std::size_t>(count)); }
+  /// Makes room for so many items in one piece; nothing that can be asked for changes. A language count may
+  /// be negative: no room then.
+  void Reserve(std::int32_t count) {
+    if (count > 0) {
+      items_.reserve(static_cast<std::size_t>(count));
+    }
+  }
 
   void Add(T item) { items_.push_back(std::move(item)); }
 

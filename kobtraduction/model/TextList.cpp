@@ -16,7 +16,9 @@ std::size_t TextList::index(std::int32_t position) const {
 }
 
 void TextList::Reserve(std::int32_t count) {
-  texts_.reserve(static_cast<std::size_t>(count));
+  if (count > 0) {
+    texts_.reserve(static_cast<std::size_t>(count));
+  }
 }
 
 void TextList::Add(TextView text) {

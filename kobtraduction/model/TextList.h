@@ -27,7 +27,8 @@ class KOB_EXPORT TextList {
   /// The text at a position; the view lives until the list is changed.
   TextView Item(std::int32_t position) const;
 
-  /// Makes room for so many items in one piece; nothing that can be asked for changes.
+  /// Makes room for so many items in one piece; nothing that can be asked for changes. A language count may
+  /// be negative: no room then.
   void Reserve(std::int32_t count);
 
   void Add(TextView text);

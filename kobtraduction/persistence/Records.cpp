@@ -5,7 +5,6 @@
 #include <kobtraduction/model/PathMemo.h>
 #include <kobtraduction/persistence/PersistStream.h>
 
-#include <exception>
 #include <memory>
 #include <typeinfo>
 #include <utility>
@@ -28,7 +27,8 @@ template <class Steps>
 void guarded(Steps steps) {
   try {
     steps();
-  } catch (const std::exception&) {
+  } catch (...) {
+    // A service may have failures of its own kind.
     Global_Util::setPersistOk(false);
   }
 }

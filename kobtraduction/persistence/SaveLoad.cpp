@@ -15,16 +15,23 @@ constexpr std::int32_t fileMode = 1;
 
 std::unique_ptr<FileManager> makeFileManager() {
   const MakeFileManager make = persistenceService();
-  if (make == nullptr) {
+  std::unique_ptr<FileManager> files = make != nullptr ? make() : nullptr;
+  if (files == nullptr) {
     throw PersistFailure(
         u"This program has no persistence service: it has to plug one in (setPersistenceService) before it "
         u"saves or loads.");
   }
-  return make();
+  return files;
 }
 
-Text widened(const char* ascii) {
-  return {ascii, ascii + std::char_traits<char>::length(ascii)};
+/// A description whose encoding nobody tells: what is not ASCII can only be marked.
+Text widened(const char* description) {
+  Text text;
+  for (const char* unit = description; *unit != '\0'; ++unit) {
+    const auto byte = static_cast<unsigned char>(*unit);
+    text += byte < 0x80 ? static_cast<char16_t>(byte) : u'\uFFFD';
+  }
+  return text;
 }
 
 /// Runs a call of the service; what it raises is shown below `text`. Whether the call and all its records
@@ -44,6 +51,8 @@ bool served(TextView text, Call call) {
     return show(failure.description());
   } catch (const std::exception& failure) {
     return show(widened(failure.what()));
+  } catch (...) {
+    return show(u"The persistence service failed and did not say why.");
   }
 }
 
