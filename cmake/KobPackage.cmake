@@ -1,11 +1,12 @@
 # Installation: the libraries, the public headers, the CMake package KOBTraduction (KOBTraduction::Core,
-# KOBTraduction::Qt) and the pkg-config files kobtraduction and kobtraduction-qt.
+# KOBTraduction::Persistence, KOBTraduction::Qt) and the pkg-config files kobtraduction, kobtraduction-persistence and
+# kobtraduction-qt.
 include(CMakePackageConfigHelpers)
 include(KobHeaders)
 
 set(KOB_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/KOBTraduction")
 
-# kob_install(TARGET core|qt EXPORT): a library with its headers; its targets file is EXPORT.cmake.
+# kob_install(TARGET core|persistence|qt EXPORT): a library with its headers; its targets file is EXPORT.cmake.
 function(kob_install target part export)
   install(TARGETS ${target} EXPORT ${export})
   install(EXPORT ${export} NAMESPACE KOBTraduction:: DESTINATION "${KOB_PACKAGE_DIR}")
@@ -27,8 +28,11 @@ file(RELATIVE_PATH KOB_PC_TO_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 
 kob_install(KOBTraduction core KOBTraductionCoreTargets)
 kob_pkgconfig(kobtraduction)
+# The libraries stand side by side and find each other wherever that is.
+set_target_properties(KOBPersistence PROPERTIES INSTALL_RPATH "$ORIGIN")
+kob_install(KOBPersistence persistence KOBTraductionPersistenceTargets)
+kob_pkgconfig(kobtraduction-persistence)
 if(TARGET KOBTraductionQt)
-  # The two libraries stand side by side and find each other wherever that is.
   set_target_properties(KOBTraductionQt PROPERTIES INSTALL_RPATH "$ORIGIN")
   kob_install(KOBTraductionQt qt KOBTraductionQtTargets)
   kob_pkgconfig(kobtraduction-qt)

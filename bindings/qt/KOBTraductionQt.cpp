@@ -1,4 +1,5 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobpersistence/KOBPersistence.h>
 #include <kobtraductionqt/KOBTraductionQt.h>
 
 #include "ClassTraits.h"
@@ -12,6 +13,12 @@
 namespace kob::qt {
 
 namespace {
+
+/// An application that shows forms keeps its models in files by default; it may plug in another service.
+const bool isPersistenceUsed = [] {
+  usePersistence();
+  return true;
+}();
 
 QWidget* formOf(QWidget* widget);
 

@@ -4,6 +4,8 @@
   kobtraduction/ includes the standard library and itself, nothing else
   inside it, a room includes the floor (base/ and the interface headers) and the rooms below it
   the interface headers include only the floor
+  kobpersistence/ includes the standard library, itself and kobtraduction/; of the operating system only in the files
+  that are named after it (Posix*, Win32*)
   bindings/ include kobtraduction/ and the toolkit; apps/ may include both; nobody includes apps/
   an installed header includes no internal one, and outside the component nobody but tests/ does
   what is installed is meant to be: it exports something, or an installed header includes it
@@ -28,6 +30,7 @@ BELOW = {"base": {"base"},
          "engine": {"base", "model", "engine"},
          "editor": {"base", "model", "persistence", "engine", "editor"},
          "component": {"base", "model", "persistence", "engine", "editor", "component"}}
+SERVICE_MAY_INCLUDE = ("kobtraduction/", "kobpersistence/")
 STANDARD = set("""algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts
 condition_variable coroutine deque exception execution filesystem format forward_list fstream functional future
 initializer_list iomanip ios iosfwd iostream istream iterator latch limits list locale map memory memory_resource mutex
@@ -58,8 +61,11 @@ def complaint(path, header, internal):
     here = PurePosixPath(path).parts
     if header.startswith("apps/") and here[0] not in ("apps", "tests"):
         return "apps/ is included by nobody else"
-    if header in internal and here[0] not in ("kobtraduction", "tests"):
-        return f"{header} is internal to the component"
+    if header in internal and here[0] not in (PurePosixPath(header).parts[0], "tests"):
+        return f"{header} is internal to its library"
+    if here[0] == "kobpersistence" and header not in STANDARD and not header.startswith(SERVICE_MAY_INCLUDE) \
+            and not here[-1].startswith(("Posix", "Win32")):
+        return f"kobpersistence/ needs the standard library and the component only, and {header} is of neither"
     if here[0] != "kobtraduction":
         return None
     if header in STANDARD:
@@ -109,9 +115,13 @@ def self_test():
               "kobtraduction/engine/D.h": "#include <kobtraduction/base/Hidden.h> // KOB_EXPORT",
               "bindings/qt/E.cpp": "#include <kobtraduction/base/Hidden.h>",
               "bindings/qt/F.cpp": '#include "apps/demo/Main.h"',
+              "kobtraduction/persistence/G.cpp": "#include <kobpersistence/KOBPersistence.h>",
+              "kobpersistence/H.cpp": "#include <unistd.h>",
+              "kobpersistence/I.cpp": "#include <kobtraduction/base/Hidden.h>",
               "kobtraduction/base/Lonely.h": "#pragma once"}
     allowed = {"kobtraduction/model/G.cpp": "#include <vector>\n#include <kobtraduction/component/MessageBoxes.h>",
                "kobtraduction/engine/H.cpp": "#include <kobtraduction/model/CellList.h>",
+               "kobpersistence/PosixK.cpp": "#include <unistd.h>",
                "bindings/qt/I.cpp": "#include <QWidget>\n#include <kobtraduction/engine/HostObject.h>",
                "apps/demo/J.cpp": "#include <kobtraductionqt/KOBTraductionQt.h>"}
     internal = {"kobtraduction/base/Hidden.h"}

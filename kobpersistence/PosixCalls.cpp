@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobpersistence/PosixCalls.h>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace kob::persistence {
+
+PosixCalls::~PosixCalls() = default;
+
+int PosixCalls::open(const char* path, int flags, mode_t mode) {
+  return ::open(path, flags, mode);
+}
+
+int PosixCalls::close(int file) {
+  return ::close(file);
+}
+
+int PosixCalls::lstat(const char* path, struct stat* status) {
+  return ::lstat(path, status);
+}
+
+int PosixCalls::fstat(int file, struct stat* status) {
+  return ::fstat(file, status);
+}
+
+ssize_t PosixCalls::readlink(const char* path, char* to, std::size_t size) {
+  return ::readlink(path, to, size);
+}
+
+int PosixCalls::access(const char* path, int mode) {
+  return ::faccessat(AT_FDCWD, path, mode, AT_EACCESS);
+}
+
+int PosixCalls::flock(int file, int operation) {
+  return ::flock(file, operation);
+}
+
+ssize_t PosixCalls::read(int file, void* to, std::size_t size) {
+  return ::read(file, to, size);
+}
+
+ssize_t PosixCalls::write(int file, const void* from, std::size_t size) {
+  return ::write(file, from, size);
+}
+
+ssize_t PosixCalls::pwrite(int file, const void* from, std::size_t size, off_t offset) {
+  return ::pwrite(file, from, size, offset);
+}
+
+int PosixCalls::ftruncate(int file, off_t size) {
+  return ::ftruncate(file, size);
+}
+
+off_t PosixCalls::lseek(int file, off_t offset, int whence) {
+  return ::lseek(file, offset, whence);
+}
+
+int PosixCalls::fchown(int file, uid_t owner, gid_t group) {
+  return ::fchown(file, owner, group);
+}
+
+int PosixCalls::fchmod(int file, mode_t mode) {
+  return ::fchmod(file, mode);
+}
+
+int PosixCalls::fsync(int file) {
+  return ::fsync(file);
+}
+
+int PosixCalls::rename(const char* from, const char* to) {
+  return std::rename(from, to);
+}
+
+int PosixCalls::unlink(const char* path) {
+  return ::unlink(path);
+}
+
+}  // namespace kob::persistence

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <kobpersistence/Bytes.h>
+#include <kobtraduction/base/Text.h>
+
+#include <cstdint>
+#include <vector>
+
+namespace kob::persistence {
+
+/// Reads a number that storeVarint writes, and no other form of it; moves `from` behind it.
+bool takeVarint(const Byte*& from, const Byte* end, std::uint32_t& number) noexcept;
+
+/// Looks at the values of all records, from the last to the first, and lays their texts out as UTF-16.
+/// What is wrong is thrown as a PersistFailure.
+class RecordCheck {
+ public:
+  /// The block has room for so many units, and for `slack` bytes more.
+  RecordCheck(const Byte* file, std::uint32_t records, char16_t* block, std::uint64_t units);
+
+  void check(std::uint32_t record, const Byte* from, const Byte* end);
+  /// After the first record: whether the records are one whole.
+  void finish() const;
+
+  const char16_t* textsEnd() const noexcept { return to_; }
+  /// The numbers of the objects that are named by number, each once, ascending.
+  std::vector<std::uint32_t> shared() const;
+
+ private:
+  [[noreturn]] void wrong(const Byte* at, TextView what) const;
+  const Byte* checkValue(const Byte* from, const Byte* end);
+  /// Behind a text of so many units, each in so many bytes.
+  const Byte* takeText(const Byte* from, const Byte* end, std::uint32_t bytesPerUnit);
+  void repeatText(const Byte* at);
+  void takeNextObject(const Byte* at);
+  const Byte* takeNumberedObject(const Byte* from, const Byte* end);
+  void checkRoom(std::uint64_t units, const Byte* at) const;
+
+  const Byte* file_;
+  char16_t* to_;
+  const char16_t* blockEnd_;
+  std::uint32_t record_ = 0;
+  /// The last text of the record, when it may be repeated.
+  TextView lastText_;
+  /// For each record, how many levels it has with those below it.
+  std::vector<std::uint16_t> heights_;
+  /// The records whose objects wait for the record that names them.
+  std::vector<std::uint32_t> waiting_;
+  std::vector<std::uint32_t> shared_;
+};
+
+}  // namespace kob::persistence

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <kobpersistence/Bytes.h>
+#include <kobpersistence/Container.h>
+#include <kobtraduction/persistence/PersistStream.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace kob::persistence {
+
+/// Where a record's objects come from: made and filled.
+class FilledObjects {
+ public:
+  virtual ~FilledObjects() = default;
+  virtual PersistRef next() = 0;
+  virtual PersistRef numbered(std::uint32_t record) = 0;
+};
+
+/// The stream that an object reads its record from, which was checked before; used for one record after the
+/// other.
+class RecordReader final : public PersistStream {
+ public:
+  RecordReader(FilledObjects& objects, const Container& container);
+
+  /// Begins a record; its texts lie one behind the other from `texts` on.
+  void open(std::uint32_t number, const Record& record, const char16_t* texts) noexcept;
+  /// Passes over the values that the object did not ask for, and tells where their texts end.
+  const char16_t* close();
+
+  std::int32_t Version() override { return version_; }
+  void setVersion(std::int32_t version) override;
+  void WriteValue(const PersistValue& value) override;
+  const PersistValue& ReadValue() override;
+  std::shared_ptr<const void> image() const override { return image_; }
+
+ private:
+  TextView takeText(std::size_t units) noexcept;
+
+  FilledObjects& objects_;
+  const Container& container_;
+  std::shared_ptr<const void> image_;
+  const Byte* from_ = nullptr;
+  const Byte* end_ = nullptr;
+  const char16_t* texts_ = nullptr;
+  std::size_t lastUnits_ = 0;
+  /// Small integers 1 that a run still stands for.
+  std::uint32_t ones_ = 0;
+  std::uint32_t number_ = 0;
+  std::int32_t version_ = 0;
+  PersistValue value_;
+};
+
+}  // namespace kob::persistence

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <kobpersistence/Bytes.h>
+#include <kobtraduction/persistence/PersistStream.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <memory>
+
+namespace kob::persistence {
+
+/// How the object of an Object value is written.
+struct ObjectForm {
+  bool isNext = true;
+  /// The number of its record, unless it is the next object.
+  std::uint32_t number = 0;
+};
+
+/// Told of every object that a record names.
+class NamedObjects {
+ public:
+  virtual ~NamedObjects() = default;
+  virtual ObjectForm name(const PersistRef& object) = 0;
+};
+
+/// The stream that an object writes its record to: a buffer, used for one record after the other.
+class RecordWriter final : public PersistStream {
+ public:
+  explicit RecordWriter(NamedObjects& objects);
+
+  /// Lets the object write its record. What went wrong in the service's own part is thrown here, and not
+  /// through the object, which would take it for a failure of its own.
+  void write(IKOBVBPersistStream& object, Byte classNumber);
+
+  /// The record written last, complete; it lives until the next one.
+  const Byte* record() const noexcept { return start_; }
+  std::size_t recordSize() const noexcept { return static_cast<std::size_t>(to_ - start_); }
+  /// The units of all texts of that record.
+  std::uint64_t units() const noexcept { return units_; }
+
+  std::int32_t Version() override { return version_; }
+  void setVersion(std::int32_t version) override { version_ = version; }
+  void WriteValue(const PersistValue& value) override;
+  const PersistValue& ReadValue() override;
+
+ private:
+  /// Makes room for so many bytes, and a block beyond them.
+  void reserve(std::size_t size);
+  void writeText(TextView text);
+  void writeSmallInteger(std::int32_t number);
+  void writeObject(const PersistRef& object);
+  void endRecord(Byte classNumber);
+
+  NamedObjects& objects_;
+  std::unique_ptr<Byte[]> buffer_;
+  std::size_t capacity_;
+  Byte* start_;
+  Byte* to_;
+  /// The number of ones behind the value written last, if that is a run of ones.
+  Byte* ones_ = nullptr;
+  /// The text written last when it may be repeated, as an offset, and its size with tag and length.
+  std::size_t lastText_ = 0;
+  std::size_t lastTextSize_ = 0;
+  std::uint64_t units_ = 0;
+  std::int32_t version_ = 0;
+  std::exception_ptr failure_;
+};
+
+}  // namespace kob::persistence

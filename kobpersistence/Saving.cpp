@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobpersistence/ContainerWriter.h>
+#include <kobpersistence/Describing.h>
+#include <kobpersistence/Format.h>
+#include <kobpersistence/ObjectTable.h>
+#include <kobpersistence/RecordWriter.h>
+#include <kobpersistence/Saving.h>
+#include <kobpersistence/SharedOrder.h>
+
+#include <limits>
+#include <utility>
+#include <vector>
+
+namespace kob::persistence {
+
+namespace {
+
+/// The classes that the object says may occur, as numbers.
+class ClassNumbers {
+ public:
+  explicit ClassNumbers(IKOBVBPersistStream& object) : classes_(object.getProgIdTable()) {
+    if (classes_ == nullptr) {
+      throw failure({u"An object of the class ", object.getProgID(), u" is not saved by itself."});
+    }
+    if (static_cast<std::size_t>(classes_->Count()) > mostClasses) {
+      throw failure({u"More than 255 classes cannot be saved in one file."});
+    }
+    for (const Text& name : *classes_) {
+      if (name.size() > std::numeric_limits<std::uint16_t>::max()) {
+        throw failure({u"A class identifier is longer than 65 535 characters."});
+      }
+    }
+  }
+
+  const ProgIdTable& table() const noexcept { return *classes_; }
+
+  Byte of(const IKOBVBPersistStream& object) {
+    const TextView name = object.getProgID();
+    // Identifiers are static, so one that was looked up is known by its place.
+    if (name.data() == last_.data() && name.size() == last_.size()) {
+      return lastNumber_;
+    }
+    Byte number = 0;
+    for (const Text& known : *classes_) {
+      if (known == name) {
+        last_ = name;
+        lastNumber_ = number;
+        return number;
+      }
+      ++number;
+    }
+    throw failure({u"An object of the class ", name,
+                   u" cannot be saved in this file: the first object's table of classes does not name it."});
+  }
+
+ private:
+  std::shared_ptr<ProgIdTable> classes_;
+  TextView last_;
+  Byte lastNumber_ = 0;
+};
+
+PersistRef borrowed(IKOBVBPersistStream& object) {
+  return {PersistRef(), &object};
+}
+
+/// Writes a tree in one go, each object directly before the first that it names.
+class TreeSave final : private NamedObjects {
+ public:
+  /// Whether it is a tree; if not, nothing of use has been written.
+  bool save(ContainerWriter& file, ClassNumbers& classes, IKOBVBPersistStream& first) {
+    RecordWriter writer(*this);
+    pending_.push_back({objects_.add(borrowed(first)).index, 1});
+    while (!pending_.empty()) {
+      const Pending now = pending_.back();
+      pending_.pop_back();
+      if (now.level > deepestNesting) {
+        throw tooDeep();
+      }
+      IKOBVBPersistStream& object = objects_.object(now.index);
+      named_.clear();
+      writer.write(object, classes.of(object));
+      if (!isTree_) {
+        return false;
+      }
+      file.addRecord(writer.record(), writer.recordSize(), writer.units());
+      for (auto named = named_.rbegin(); named != named_.rend(); ++named) {
+        pending_.push_back({*named, now.level + 1});
+      }
+    }
+    return true;
+  }
+
+ private:
+  struct Pending {
+    std::uint32_t index;
+    std::uint32_t level;
+  };
+
+  ObjectForm name(const PersistRef& object) override {
+    const ObjectTable::Found found = objects_.add(object);
+    isTree_ = isTree_ && found.isNew;
+    named_.push_back(found.index);
+    return {};
+  }
+
+  ObjectTable objects_;
+  std::vector<Pending> pending_;
+  std::vector<std::uint32_t> named_;
+  bool isTree_ = true;
+};
+
+/// Writes objects some of which are named more than once: all are met first, and then written in order.
+class GraphSave final : private NamedObjects {
+ public:
+  void save(ContainerWriter& file, ClassNumbers& classes, IKOBVBPersistStream& first) {
+    RecordWriter writer(*this);
+    objects_.add(borrowed(first));
+    for (std::uint32_t index = 0; index < objects_.count(); ++index) {
+      IKOBVBPersistStream& object = objects_.object(index);
+      writer.write(object, classes.of(object));
+      graph_.begins.push_back(static_cast<std::uint32_t>(graph_.named.size()));
+    }
+    order_ = orderOf(graph_);
+    isOrdered_ = true;
+    for (const std::uint32_t index : order_.objects) {
+      IKOBVBPersistStream& object = objects_.object(index);
+      place_ = graph_.begins[index];
+      writer.write(object, classes.of(object));
+      if (place_ != graph_.begins[index + 1]) {
+        throw changed();
+      }
+      file.addRecord(writer.record(), writer.recordSize(), writer.units());
+    }
+  }
+
+ private:
+  static PersistFailure changed() {
+    return failure(
+        {u"An object changed while it was being saved. Save again once nothing changes any more."});
+  }
+
+  ObjectForm name(const PersistRef& object) override {
+    const ObjectTable::Found found = objects_.add(object);
+    if (!isOrdered_) {
+      graph_.named.push_back(found.index);
+      return {};
+    }
+    if (found.isNew || place_ == graph_.named.size() || graph_.named[place_] != found.index) {
+      throw changed();
+    }
+    return {order_.isNext[place_++], order_.records[found.index]};
+  }
+
+  ObjectTable objects_;
+  NamingGraph graph_;
+  RecordOrder order_;
+  bool isOrdered_ = false;
+  std::uint32_t place_ = 0;
+};
+
+}  // namespace
+
+void save(WritableFile& file, IKOBVBPersistStream& object) {
+  ClassNumbers classes(object);
+  ContainerWriter container(file, classes.table());
+  if (!TreeSave().save(container, classes, object)) {
+    container.startOver();
+    GraphSave().save(container, classes, object);
+  }
+  container.finish();
+}
+
+}  // namespace kob::persistence
