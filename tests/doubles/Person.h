@@ -14,7 +14,7 @@ namespace kob::testing {
 /// that is hidden, disabled or locked, or on a window that is closed, does nothing and returns false.
 class Person {
  public:
-  explicit Person(ScriptedWindow& window) noexcept : window(window) {}
+  explicit Person(ScriptedWindow& driven) noexcept : window(driven) {}
 
   bool type(TextView textBox, TextView text) { return type(textBox, -1, text); }
   bool type(TextView textBox, std::int32_t index, TextView text);
