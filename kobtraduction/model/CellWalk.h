@@ -4,7 +4,9 @@
 #include <kobtraduction/base/Failure.h>
 #include <kobtraduction/model/KOBCellTraduction.h>
 
+#include <cstddef>
 #include <memory>
+#include <type_traits>
 #include <vector>
 
 namespace kob {
@@ -25,12 +27,16 @@ class CellWalk {
     }
   }
 
-  /// Calls visit(cell) for `root` and every cell below it.
+  /// Calls visit(cell), or visit(cell, depth), for `root` (depth 0) and every cell below it.
   template <class Visit>
   static void each(KOBCellTraduction& root, Visit&& visit) {
     CellWalk walk;
     for (KOBCellTraduction* cell = &root; cell != nullptr; cell = walk.next()) {
-      visit(*cell);
+      if constexpr (std::is_invocable_v<Visit, KOBCellTraduction&, std::size_t>) {
+        visit(*cell, walk.open_.size());
+      } else {
+        visit(*cell);
+      }
       walk.enter(*cell);
     }
   }

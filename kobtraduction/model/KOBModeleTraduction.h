@@ -97,6 +97,13 @@ class KOB_EXPORT KOBModeleTraduction final : public IKOBVBPersistStream {
   /// has no item `langue`.
   Text GetTraduction(TextView path, std::int32_t langue, TextView nom = {}) const;
 
+  /// Opens the editor on this model and returns when the person has closed it: on the cell at `path`, or on
+  /// none when the path is "" or unknown. With mode 1 texts can be translated and nothing else; any other
+  /// mode opens all of the editor. Edits are in the model at once; nothing is saved unless the person does.
+  /// The thread must have a widget set (see WidgetSet.h), else ObjectNotSet. Whatever failure of the model
+  /// the person's doing meets closes the editor and is raised here. The model must outlive the call.
+  void Show(std::int32_t mode = 1, TextView path = {});
+
   // As the object that a translation file holds; defined in persistence/.
   TextView getProgID() const noexcept override;
   std::shared_ptr<ProgIdTable> getProgIdTable() override;

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <kobtraduction/model/KOBModeleTraduction.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <memory>
+#include <vector>
+
+namespace kob {
+
+/// GetTraductionsConnues for several texts at the cost of one walk through the model: for each text the list,
+/// or the failure, that a call for it gives. As completing an entry from its list adds nothing that the other
+/// lists would take differently, the lists can be made first and the entries be completed after. The texts
+/// must outlive it. Internal.
+class KnownTexts {
+ public:
+  KnownTexts(const KOBModeleTraduction& model, const std::vector<Text>& references);
+
+  /// The list for a text, or its failure. Lives as long as this object.
+  const TextList& of(std::size_t number) const;
+
+ private:
+  struct Known {
+    TextView reference;
+    std::uint32_t hash;
+    std::shared_ptr<TextList> texts;
+    std::exception_ptr failure;
+  };
+
+  void complete(const KOBTraductionObj& entry);
+
+  std::vector<Known> known_;
+  /// The texts' numbers by their hashes.
+  std::vector<std::size_t> byHash_;
+};
+
+}  // namespace kob
