@@ -75,6 +75,57 @@ TEST(DeepTree, ResolvesAndWritesItsLongestPath) {
   });
 }
 
+TEST(DeepTree, IsFilledFromAnotherOne) {
+  onSmallStack([] {
+    DeepModel deep;
+    const DeepModel other;
+    other.last->Traduction()->ChangeTraduction(u"texte", 2);
+    deep.model.UpdateWithTraductionModele(other.model);
+    EXPECT_EQ(texts(deep.last)[1], u"texte");
+  });
+}
+
+TEST(DeepTree, WithAMessageAtEveryLevelIsFilledFromAnotherOne) {
+  onSmallStack([] {
+    DeepModel deep;
+    const DeepModel other;
+    for (const DeepModel* const one : {static_cast<const DeepModel*>(&deep), &other}) {
+      for (CellRef cell = one->last->parentcell(); cell != one->model.Racine(); cell = cell->parentcell()) {
+        cell->setTypeFeuille(1);
+      }
+    }
+    other.middle->Traduction()->ChangeTraduction(u"texte", 2);
+    deep.model.Racine()->UpdateCellWithModele(other.model, -1);
+    EXPECT_EQ(texts(deep.middle)[1], u"texte");
+  });
+}
+
+TEST(DeepTree, IsSearched) {
+  onSmallStack([] {
+    const DeepModel deep;
+    CellResults results;
+    deep.model.SearchString(u"EX", &results);
+    deep.model.SearchNonTraduit(2, &results);
+    EXPECT_EQ(results.Count(), 2);
+    EXPECT_EQ(results.Item(1), deep.last);
+  });
+}
+
+TEST(DeepTree, TellsWhatIsKnownOfAText) {
+  onSmallStack([] {
+    const DeepModel deep;
+    deep.last->Traduction()->ChangeTraduction(u"texte", 2);
+    EXPECT_EQ(texts(*deep.model.GetTraductionsConnues(u"TEXT"))[1], u"texte");
+  });
+}
+
+TEST(DeepTree, IsNotGraftedBelowItsOwnEnd) {
+  onSmallStack([] {
+    DeepModel deep;
+    EXPECT_EQ(failureOf([&] { deep.last->AddModele(deep.model); }), FailureKind::InvalidCall);
+  });
+}
+
 TEST(DeepTree, AWalkThatFailsAtTheBottomComesBack) {
   onSmallStack([] {
     DeepModel deep;
