@@ -14,7 +14,7 @@ namespace {
 
 /// The text of an entry in a language, or its reference text when that is "".
 TextView textOf(const KOBTraductionObj& entry, std::int32_t langue) {
-  const TextList& texts = mustBeSet(entry.ColTraduction());
+  const TextList& texts = entry.texts();
   const TextView text = texts.Item(langue);
   return text.empty() ? texts.Item(1) : text;
 }
@@ -28,7 +28,7 @@ struct ControlTexts {
 
   /// A later entry of the same name overrides an earlier one.
   void readFrom(const KOBCellTraduction& cell, std::int32_t langue) {
-    for (const auto& entry : mustBeSet(cell.ColTraduction())) {
+    for (const auto& entry : mustBeSet(cell.entries())) {
       const TextView name = mustBeSet(entry).nom();
       if (equalToUpper(name, u"CAPTION")) {
         hasCaption = true;
@@ -113,15 +113,15 @@ void translate(const KOBCellTraduction& cell, const HostRef& control, std::int32
   }
   ControlTexts texts;
   texts.readFrom(cell, langue);
-  double leftFactor = mustBeSet(cell.ColLeft()).Item(langue).value();
-  double widthFactor = mustBeSet(cell.ColWidth()).Item(langue).value();
+  double leftFactor = cell.leftFactor(langue).value();
+  double widthFactor = cell.widthFactor(langue).value();
   std::shared_ptr<KOBCellTraduction> contextCell;
   if (!context.empty()) {
     contextCell = cell.GetCell(context);
     if (contextCell != nullptr) {
       texts.readFrom(*contextCell, langue);
-      leftFactor = mustBeSet(contextCell->ColLeft()).Item(langue).value();
-      widthFactor = mustBeSet(contextCell->ColWidth()).Item(langue).value();
+      leftFactor = contextCell->leftFactor(langue).value();
+      widthFactor = contextCell->widthFactor(langue).value();
     }
   }
 

@@ -25,12 +25,12 @@ void addEntry(const KOBCellTraduction& cell, TextView name, TextView text) {
   auto entry = std::make_shared<KOBTraductionObj>();
   entry->setnom(name);
   entry->ChangeTraduction(text, 1);
-  mustBeSet(cell.ColTraduction()).Add(std::move(entry));
+  mustBeSet(cell.entries()).Add(std::move(entry));
 }
 
 /// The first entry of a name, case ignored; none when there is none.
 KOBTraductionObj* findEntry(const KOBCellTraduction& cell, TextView name) {
-  for (const auto& entry : mustBeSet(cell.ColTraduction())) {
+  for (const auto& entry : mustBeSet(cell.entries())) {
     if (equalUpper(mustBeSet(entry).nom(), name)) {
       return entry.get();
     }
@@ -39,7 +39,7 @@ KOBTraductionObj* findEntry(const KOBCellTraduction& cell, TextView name) {
 }
 
 Text referenceText(const KOBTraductionObj* entry) {
-  return entry == nullptr ? Text() : Text(mustBeSet(entry->ColTraduction()).Item(1));
+  return entry == nullptr ? Text() : Text(entry->texts().Item(1));
 }
 
 Texts firstTexts(const KOBCellTraduction& cell) {
@@ -48,7 +48,7 @@ Texts firstTexts(const KOBCellTraduction& cell) {
 
 Texts lastTexts(const KOBCellTraduction& cell) {
   Texts texts;
-  for (const auto& entry : mustBeSet(cell.ColTraduction())) {
+  for (const auto& entry : mustBeSet(cell.entries())) {
     if (equalUpper(mustBeSet(entry).nom(), captionEntry)) {
       texts.caption = referenceText(entry.get());
     } else if (equalUpper(entry->nom(), toolTipEntry)) {

@@ -35,8 +35,8 @@ inline void must(bool done) {
 }
 
 /// A reference that is used: nothing ends the procedure.
-template <class T>
-T& mustBeSet(const std::shared_ptr<T>& object) {
+template <class Pointer>
+auto& mustBeSet(const Pointer& object) {
   if (object == nullptr) {
     throw Failure(FailureKind::ObjectNotSet);
   }

@@ -13,43 +13,21 @@ namespace kob {
 
 namespace {
 
-template <class T>
-T& required(const std::shared_ptr<T>& object) {
+template <class Pointer>
+auto& required(const Pointer& object) {
   if (object == nullptr) {
     throw Failure(FailureKind::ObjectNotSet);
   }
   return *object;
 }
 
-std::shared_ptr<FactorList> unchangedFactors() {
-  auto list = std::make_shared<FactorList>();
-  list->Reserve(Global_Util::NbLangues());
-  for (std::int32_t i = Global_Util::NbLangues(); i > 0; --i) {
-    list->Add(Factor());
-  }
-  return list;
-}
-
-void changeFactor(const std::shared_ptr<FactorList>& factors, double value, std::int32_t position) {
-  if (position < 1 || position > Global_Util::NbLangues()) {
-    return;
-  }
-  FactorList& list = required(factors);
-  list.Remove(position);
-  if (position > list.Count()) {
-    list.Add(Factor(value));
-  } else {
-    list.Add(Factor(value), position);
-  }
-}
-
 /// Calls change(entry) for the translations that a cell holds by its kind.
 template <class Change>
 void eachEntry(const KOBCellTraduction& cell, Change change) {
   if (cell.TypeFeuille() == 1) {
-    change(required(cell.Traduction()));
+    change(required(cell.message()));
   } else if (cell.TypeFeuille() == 2) {
-    for (const auto& entry : required(cell.ColTraduction())) {
+    for (const auto& entry : required(cell.entries())) {
       change(required(entry));
     }
   }
@@ -102,47 +80,73 @@ std::shared_ptr<KOBCellTraduction> KOBCellTraduction::createNode() {
   return cell;
 }
 
+KOBCellTraduction::Rare& KOBCellTraduction::rare() const {
+  if (rare_ == nullptr) {
+    rare_ = std::make_unique<Rare>();
+  }
+  return *rare_;
+}
+
 void KOBCellTraduction::setnom(TextView name) {
   StoredText newName(name);
-  if (holder_ == nullptr) {
-    nom_ = std::move(newName);
-    return;
+  if (isAliasNom_ && name != nom()) {
+    rare();
   }
   const auto eachHolder = [this](void (CellList::*tell)(KOBCellTraduction&)) {
+    if (holder_ == nullptr) {
+      return;
+    }
     (holder_->*tell)(*this);
-    if (moreHolders_ != nullptr) {
-      for (CellList* const holder : *moreHolders_) {
+    if (rare_ != nullptr) {
+      for (CellList* const holder : rare_->moreHolders) {
         (holder->*tell)(*this);
       }
     }
   };
   eachHolder(&CellList::beforeRename);
-  nom_ = std::move(newName);
+  std::swap(nom_, newName);
+  if (isAliasNom_ && newName.text() != nom()) {
+    rare_->alias = std::move(newName);
+    isAliasNom_ = false;
+  }
   eachHolder(&CellList::afterRename);
+}
+
+TextView KOBCellTraduction::Alias() const noexcept {
+  if (isAliasNom_) {
+    return nom();
+  }
+  return rare_ != nullptr ? rare_->alias.text() : TextView();
+}
+
+void KOBCellTraduction::setAlias(TextView alias) {
+  const bool isNom = alias == nom();
+  if (!isNom && (rare_ != nullptr || !alias.empty())) {
+    rare().alias = StoredText(alias);
+  }
+  isAliasNom_ = isNom;
 }
 
 void KOBCellTraduction::addHolder(CellList& list) {
   if (holder_ == nullptr) {
     holder_ = &list;
-    return;
+  } else {
+    rare().moreHolders.push_back(&list);
   }
-  if (moreHolders_ == nullptr) {
-    moreHolders_ = std::make_unique<std::vector<CellList*>>();
-  }
-  moreHolders_->push_back(&list);
 }
 
 void KOBCellTraduction::removeHolder(CellList& list) noexcept {
-  if (moreHolders_ == nullptr || moreHolders_->empty()) {
+  if (rare_ == nullptr || rare_->moreHolders.empty()) {
     holder_ = nullptr;
     return;
   }
+  std::vector<CellList*>& more = rare_->moreHolders;
   if (holder_ == &list) {
-    holder_ = moreHolders_->back();
+    holder_ = more.back();
   } else {
-    *std::find(moreHolders_->begin(), moreHolders_->end(), &list) = moreHolders_->back();
+    *std::find(more.begin(), more.end(), &list) = more.back();
   }
-  moreHolders_->pop_back();
+  more.pop_back();
 }
 
 void KOBCellTraduction::setColCell(std::shared_ptr<CellList> children) noexcept {
@@ -155,40 +159,8 @@ void KOBCellTraduction::setTypeCell(std::int32_t kind) {
     return;
   }
   treeChanged();
-  typeCell_ = kind;
+  typeCell_ = static_cast<std::int8_t>(kind);
   colCell_ = kind == 1 ? std::make_shared<CellList>() : nullptr;
-}
-
-void KOBCellTraduction::setTypeFeuille(std::int32_t kind) {
-  if (kind < 0 || kind > 2 || kind == typeFeuille_) {
-    return;
-  }
-  typeFeuille_ = kind;
-  clearTranslations();
-  if (kind == 1) {
-    traduction_ = std::make_shared<KOBTraductionObj>();
-  } else if (kind == 2) {
-    colTraduction_ = std::make_shared<EntryList>();
-    // A caption and a tool tip.
-    colTraduction_->Reserve(2);
-    colWidth_ = unchangedFactors();
-    colLeft_ = unchangedFactors();
-  }
-}
-
-void KOBCellTraduction::clearTranslations() noexcept {
-  colTraduction_ = nullptr;
-  colWidth_ = nullptr;
-  colLeft_ = nullptr;
-  traduction_ = nullptr;
-}
-
-void KOBCellTraduction::ChangeWidth(double width, std::int32_t Index) {
-  changeFactor(colWidth_, width, Index);
-}
-
-void KOBCellTraduction::ChangeLeft(double left, std::int32_t Index) {
-  changeFactor(colLeft_, left, Index);
 }
 
 CellList& KOBCellTraduction::children() const {
@@ -233,7 +205,7 @@ std::shared_ptr<KOBCellTraduction> KOBCellTraduction::AddMessage(TextView NomMes
     return nullptr;
   }
   std::shared_ptr<KOBCellTraduction> child = create();
-  child->traduction_->ChangeTraduction(Message, 1);
+  child->message()->ChangeTraduction(Message, 1);
   insertChild(child, NomMessage, AliasMessage);
   return child;
 }
@@ -282,10 +254,15 @@ void KOBCellTraduction::UpdateNbLangues() {
     if (cell.TypeFeuille() != 2) {
       return;
     }
-    FactorList& widths = required(cell.ColWidth());
+    const std::int32_t last = Global_Util::NbLangues();
     // From the present count on, as in every extension: one factor more than the gap, and as many lefts as
     // widths whatever the lefts' own count is.
-    for (std::int32_t i = widths.Count(), last = Global_Util::NbLangues(); i <= last; ++i) {
+    if (cell.untouched_ >= 0) {
+      cell.untouched_ = cell.untouched_ <= last ? last + 1 : cell.untouched_;
+      return;
+    }
+    FactorList& widths = required(cell.ColWidth());
+    for (std::int32_t i = widths.Count(); i <= last; ++i) {
       widths.Add(Factor());
       required(cell.ColLeft()).Add(Factor());
     }

@@ -7,6 +7,7 @@
 #include <kobtraduction/base/Text.h>
 #include <kobtraduction/model/CellList.h>
 #include <kobtraduction/model/Factor.h>
+#include <kobtraduction/model/HeldList.h>
 #include <kobtraduction/model/KOBTraductionObj.h>
 #include <kobtraduction/persistence/PersistStream.h>
 
@@ -54,21 +55,23 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   TextView nom() const noexcept { return nom_.text(); }
   void setnom(TextView name);
   /// A display name; AddNoeuds and AddMessage set it to nom when none is given.
-  TextView Alias() const noexcept { return alias_.text(); }
-  void setAlias(TextView alias) { alias_ = StoredText(alias); }
+  TextView Alias() const noexcept;
+  void setAlias(TextView alias);
   std::shared_ptr<KOBCellTraduction> parentcell() const noexcept { return parentCell_.lock(); }
   void setparentcell(const std::shared_ptr<KOBCellTraduction>& parent) noexcept { parentCell_ = parent; }
 
   const std::shared_ptr<CellList>& ColCell() const noexcept { return colCell_; }
   void setColCell(std::shared_ptr<CellList> children) noexcept;
-  const std::shared_ptr<KOBTraductionObj>& Traduction() const noexcept { return traduction_; }
-  void setTraduction(std::shared_ptr<KOBTraductionObj> entry) noexcept { traduction_ = std::move(entry); }
-  const std::shared_ptr<EntryList>& ColTraduction() const noexcept { return colTraduction_; }
-  void setColTraduction(std::shared_ptr<EntryList> entries) noexcept { colTraduction_ = std::move(entries); }
-  const std::shared_ptr<FactorList>& ColLeft() const noexcept { return colLeft_; }
-  void setColLeft(std::shared_ptr<FactorList> factors) noexcept { colLeft_ = std::move(factors); }
-  const std::shared_ptr<FactorList>& ColWidth() const noexcept { return colWidth_; }
-  void setColWidth(std::shared_ptr<FactorList> factors) noexcept { colWidth_ = std::move(factors); }
+  std::shared_ptr<KOBTraductionObj> Traduction() const;
+  void setTraduction(std::shared_ptr<KOBTraductionObj> entry);
+  std::shared_ptr<EntryList> ColTraduction() const { return colTraduction_.share(weak_from_this().lock()); }
+  void setColTraduction(std::shared_ptr<EntryList> entries) noexcept {
+    colTraduction_.assign(std::move(entries));
+  }
+  std::shared_ptr<FactorList> ColLeft() const;
+  void setColLeft(std::shared_ptr<FactorList> factors);
+  std::shared_ptr<FactorList> ColWidth() const;
+  void setColWidth(std::shared_ptr<FactorList> factors);
 
   /// Whether the control can be positioned, not where: harvesting sets 1 (left greater than 0) or -1.
   std::int32_t m_left() const noexcept { return left_; }
@@ -108,6 +111,13 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   void read(PersistStream& stream) override;
 
   // Internal: for the other classes and rooms of the component.
+
+  /// Traduction and ColTraduction without taking a reference; null for none.
+  KOBTraductionObj* message() const;
+  EntryList* entries() const noexcept { return colTraduction_.get(); }
+  /// Item `langue` of ColLeft / ColWidth; fails as reading it from there does.
+  Factor leftFactor(std::int32_t langue) const;
+  Factor widthFactor(std::int32_t langue) const;
 
   /// The cell holds translations that override a control's own in one context, or is the parent of such a
   /// cell.
@@ -161,9 +171,23 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   /// Makes a leaf a node; whether `name` is free among the children, else -2 in `erreur`.
   bool admits(TextView name, std::int32_t* erreur);
   void clearTranslations() noexcept;
+  void dropFactors() noexcept;
+  /// What few cells have.
+  struct Rare {
+    StoredText alias;
+    std::shared_ptr<FactorList> colLeft;
+    std::shared_ptr<FactorList> colWidth;
+    std::vector<CellList*> moreHolders;
+  };
+  Rare& rare() const;
+  /// Makes what is only a number so far.
+  void makeMessage() const;
+  void makeFactors() const;
+  Factor factor(std::shared_ptr<FactorList> Rare::*factors, std::int32_t langue) const;
   /// What a record holds of a control cell.
   void writeControl(PersistStream& stream) const;
   void readControl(PersistStream& stream);
+  void readFactors(PersistStream& stream);
   /// The children, or ObjectNotSet.
   CellList& children() const;
   /// A child made by AddNoeuds or AddMessage: named and put in its place.
@@ -174,20 +198,22 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   void removeHolder(CellList& list) noexcept;
 
   StoredText nom_;
-  StoredText alias_;
   std::weak_ptr<KOBCellTraduction> parentCell_;
   std::shared_ptr<CellList> colCell_;
-  std::shared_ptr<KOBTraductionObj> traduction_;
-  std::shared_ptr<EntryList> colTraduction_;
-  std::shared_ptr<FactorList> colLeft_;
-  std::shared_ptr<FactorList> colWidth_;
-  /// The lists that hold this cell, once for each time, to be told of a new name; nearly always one.
+  mutable std::shared_ptr<KOBTraductionObj> traduction_;
+  HeldList<EntryList> colTraduction_;
+  mutable std::unique_ptr<Rare> rare_;
+  /// The lists that hold this cell, once for each time, to be told of a new name; nearly always one, the
+  /// others are in rare_.
   CellList* holder_ = nullptr;
-  std::unique_ptr<std::vector<CellList*>> moreHolders_;
   std::int32_t left_ = 0;
   std::int32_t width_ = 0;
-  std::int32_t typeCell_ = -1;
-  std::int32_t typeFeuille_ = -1;
+  /// When not negative: what the cell was given with its kind is as it was then, and not made yet, for so
+  /// many languages: the entry of a message without texts, or both factor lists of a control, all 1.
+  mutable std::int32_t untouched_ = -1;
+  std::int8_t typeCell_ = -1;
+  std::int8_t typeFeuille_ = -1;
+  bool isAliasNom_ = false;
   bool contexte_ = false;
   /// A walk is inside this cell.
   bool isWalked_ = false;

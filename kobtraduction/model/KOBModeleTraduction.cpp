@@ -82,10 +82,11 @@ Text KOBModeleTraduction::GetTraduction(TextView path, std::int32_t langue, Text
   if (cell == nullptr || cell->TypeFeuille() != 1) {
     return {};
   }
-  if (cell->Traduction() == nullptr || cell->Traduction()->ColTraduction() == nullptr) {
+  const KOBTraductionObj* const entry = cell->message();
+  if (entry == nullptr) {
     throw Failure(FailureKind::ObjectNotSet);
   }
-  const TextList& texts = *cell->Traduction()->ColTraduction();
+  const TextList& texts = entry->texts();
   const TextView text = texts.Item(langue);
   return Text(text.empty() ? texts.Item(1) : text);
 }

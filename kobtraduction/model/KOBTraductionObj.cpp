@@ -5,41 +5,36 @@
 
 namespace kob {
 
-KOBTraductionObj::KOBTraductionObj() : colTraduction_(std::make_shared<TextList>()) {
-  colTraduction_->Reserve(Global_Util::NbLangues());
-  for (std::int32_t i = Global_Util::NbLangues(); i > 0; --i) {
-    colTraduction_->AddView({});
-  }
-}
+KOBTraductionObj::KOBTraductionObj() : KOBTraductionObj(Global_Util::NbLangues()) {}
 
-TextList& KOBTraductionObj::texts() const {
-  if (colTraduction_ == nullptr) {
-    throw Failure(FailureKind::ObjectNotSet);
+KOBTraductionObj::KOBTraductionObj(std::int32_t languages) : colTraduction_(TextList(languages)) {}
+
+void KOBTraductionObj::setnom(TextView name) {
+  // Nearly all entries of a model bear one of these names.
+  for (const TextView usual : {TextView(u"Caption"), TextView(u"ToolTip")}) {
+    if (name == usual) {
+      nom_ = StoredText::view(usual);
+      return;
+    }
   }
-  return *colTraduction_;
+  nom_ = StoredText(name);
 }
 
 void KOBTraductionObj::ChangeTraduction(TextView Traduction, std::int32_t Index) {
   if (Index < 1 || Index > Global_Util::NbLangues()) {
     return;
   }
-  // The text may be a view of the very item that goes.
-  const Text text(Traduction);
-  TextList& list = texts();
-  list.Remove(Index);
-  if (Index > list.Count()) {
-    list.Add(text);
-  } else {
-    list.Add(text, Index);
-  }
+  texts().Replace(Index, Traduction);
 }
 
 void KOBTraductionObj::UpdateNbLangues() {
   TextList& list = texts();
   // Starts at the present count and not one past it: each extension overshoots by one, and files hold lists
   // of that length.
-  for (std::int32_t i = list.Count(), last = Global_Util::NbLangues(); i <= last; ++i) {
-    list.AddView({});
+  const std::int32_t last = Global_Util::NbLangues();
+  if (list.Count() <= last) {
+    list.AddEmpty(last - list.Count());
+    list.AddEmpty(1);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <kobtraduction/base/Export.h>
 #include <kobtraduction/base/StoredText.h>
 #include <kobtraduction/base/Text.h>
+#include <kobtraduction/model/HeldList.h>
 #include <kobtraduction/model/TextList.h>
 #include <kobtraduction/persistence/PersistStream.h>
 
@@ -19,19 +20,23 @@ namespace kob {
 ///
 /// Failures: reading an item that the list does not have is InvalidIndex, a list that is none is
 /// ObjectNotSet.
-class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream {
+class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream,
+                                          public std::enable_shared_from_this<KOBTraductionObj> {
  public:
   /// One "" per language of the thread's language count, and no name.
   KOBTraductionObj();
+  /// One "" per language of a count of languages, and no name.
+  explicit KOBTraductionObj(std::int32_t languages);
 
-  /// The texts; may be none when a host has assigned none.
-  const std::shared_ptr<TextList>& ColTraduction() const noexcept { return colTraduction_; }
-  void setColTraduction(std::shared_ptr<TextList> texts) noexcept { colTraduction_ = std::move(texts); }
+  /// The texts; may be none when a host has assigned none. A list that is kept keeps its entry alive, when
+  /// that is one that references share.
+  std::shared_ptr<TextList> ColTraduction() const { return colTraduction_.share(weak_from_this().lock()); }
+  void setColTraduction(std::shared_ptr<TextList> texts) noexcept { colTraduction_.assign(std::move(texts)); }
 
   /// The translation's name within a control cell; "" for the entry of a message cell.
   /// The view lives until the name is changed.
   TextView nom() const noexcept { return nom_.text(); }
-  void setnom(TextView name) { nom_ = StoredText(name); }
+  void setnom(TextView name);
 
   /// Replaces the text of language `Index`; an Index outside 1..language count is ignored.
   void ChangeTraduction(TextView Traduction, std::int32_t Index);
@@ -44,6 +49,14 @@ class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream {
 
   // Internal: for the other classes and rooms of the component.
 
+  /// ColTraduction without taking a reference, or ObjectNotSet.
+  TextList& texts() const {
+    TextList* const list = colTraduction_.get();
+    if (list == nullptr) {
+      throw Failure(FailureKind::ObjectNotSet);
+    }
+    return *list;
+  }
   /// Appends "" for each i from the present count up to the language count, inclusive: always one more than
   /// the gap, so an entry already at the count still receives one.
   void UpdateNbLangues();
@@ -61,10 +74,7 @@ class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream {
   bool IsLangueEmpty(std::int16_t index) const;
 
  private:
-  /// The list, or ObjectNotSet.
-  TextList& texts() const;
-
-  std::shared_ptr<TextList> colTraduction_;
+  HeldList<TextList> colTraduction_;
   StoredText nom_;
 };
 

@@ -1,45 +1,197 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
-#include <kobtraduction/base/Failure.h>
 #include <kobtraduction/model/TextList.h>
 
+#include <algorithm>
+#include <functional>
+#include <limits>
+#include <new>
 #include <utility>
 
 namespace kob {
 
-TextList::~TextList() = default;
+namespace {
 
-std::size_t TextList::index(std::int32_t position) const {
-  if (position < 1 || static_cast<std::size_t>(position) > texts_.size()) {
-    throw Failure(FailureKind::InvalidIndex);
-  }
-  return static_cast<std::size_t>(position) - 1;
+/// What the length of a run can be told in.
+constexpr std::size_t longestRun = std::numeric_limits<std::int32_t>::max();
+
+}  // namespace
+
+TextList::TextList() noexcept = default;
+
+TextList::TextList(std::int32_t count) noexcept : TextList() {
+  count_ = static_cast<std::uint32_t>(std::max(count, 0));
 }
 
-void TextList::Reserve(std::int32_t count) {
-  if (count > 0) {
-    texts_.reserve(static_cast<std::size_t>(count));
+TextList::TextList(TextList&& other) noexcept : TextList() {
+  *this = std::move(other);
+}
+
+TextList& TextList::operator=(TextList&& other) noexcept {
+  std::swap(units_, other.units_);
+  std::swap(count_, other.count_);
+  std::swap(capacity_, other.capacity_);
+  std::swap(fewEnds_, other.fewEnds_);
+  std::swap(moreEnds_, other.moreEnds_);
+  std::swap(image_, other.image_);
+  return *this;
+}
+
+TextList::~TextList() {
+  if (capacity_ > 0) {
+    delete[] units_;
   }
+}
+
+void TextList::makeEnds() {
+  if (units_ == nullptr) {
+    if (moreEnds_ != nullptr) {
+      moreEnds_->assign(count_, 0);
+    } else if (count_ <= fewTexts) {
+      std::fill(std::begin(fewEnds_), std::end(fewEnds_), 0);
+    } else {
+      moreEnds_ = std::make_unique<Ends>(count_, 0);
+    }
+  }
+  if (moreEnds_ == nullptr && count_ == fewTexts) {
+    auto ends = std::make_unique<Ends>();
+    ends->reserve(fewTexts * 2);
+    ends->assign(std::begin(fewEnds_), std::end(fewEnds_));
+    moreEnds_ = std::move(ends);
+  }
+  if (moreEnds_ != nullptr && moreEnds_->size() == moreEnds_->capacity()) {
+    moreEnds_->reserve(moreEnds_->size() * 2 + fewTexts);
+  }
+}
+
+void TextList::insertEnd(std::uint32_t item, std::uint32_t end) noexcept {
+  if (moreEnds_ != nullptr) {
+    moreEnds_->insert(moreEnds_->begin() + static_cast<std::ptrdiff_t>(item), end);
+  } else {
+    std::copy_backward(fewEnds_ + item, fewEnds_ + count_, fewEnds_ + count_ + 1);
+    fewEnds_[item] = end;
+  }
+  ++count_;
+}
+
+void TextList::moveEnds(std::uint32_t firstItem, std::uint32_t by) noexcept {
+  // Unsigned, so that a text that becomes shorter moves the ends down.
+  std::for_each(ends() + firstItem, ends() + count_, [by](std::uint32_t& end) { end += by; });
+}
+
+void TextList::splice(std::uint32_t first, std::uint32_t last, TextView text) {
+  const std::uint32_t total = length();
+  const std::size_t newTotal = std::size_t{total} - (last - first) + text.size();
+  if (newTotal > longestRun) {
+    throw std::bad_alloc();
+  }
+  const std::less<> isBefore;
+  const bool isInside =
+      capacity_ > 0 && !isBefore(text.data(), units_) && isBefore(text.data(), units_ + capacity_);
+  if (newTotal <= capacity_ && !isInside) {
+    auto* const own = const_cast<char16_t*>(units_);
+    if (text.size() < last - first) {
+      std::copy(own + last, own + total, own + first + text.size());
+    } else {
+      std::copy_backward(own + last, own + total, own + newTotal);
+    }
+    std::copy(text.begin(), text.end(), own + first);
+    return;
+  }
+  // A list that grows by many texts makes room ahead; the usual few get what they need and no more.
+  const std::size_t ahead = count_ > fewTexts ? newTotal / 2 : 0;
+  const std::size_t capacity = std::clamp<std::size_t>(newTotal + ahead, 1, longestRun);
+  auto own = std::make_unique<char16_t[]>(capacity);
+  char16_t* end = std::copy(units_, units_ + first, own.get());
+  end = std::copy(text.begin(), text.end(), end);
+  std::copy(units_ + last, units_ + total, end);
+  if (capacity_ > 0) {
+    delete[] units_;
+  }
+  units_ = own.release();
+  capacity_ = static_cast<std::uint32_t>(capacity);
+  image_ = nullptr;
 }
 
 void TextList::Add(TextView text) {
-  texts_.push_back(StoredText(text));
+  if (units_ == nullptr && text.empty()) {
+    ++count_;
+    return;
+  }
+  makeEnds();
+  const std::uint32_t end = length();
+  if (!text.empty()) {
+    splice(end, end, text);
+  }
+  insertEnd(count_, end + static_cast<std::uint32_t>(text.size()));
 }
 
 void TextList::Add(TextView text, std::int32_t before) {
-  const auto at = static_cast<std::ptrdiff_t>(index(before));
-  texts_.insert(texts_.begin() + at, StoredText(text));
+  const std::uint32_t item = index(before);
+  if (units_ == nullptr && text.empty()) {
+    ++count_;
+    return;
+  }
+  makeEnds();
+  const std::uint32_t begin = start(item);
+  const auto size = static_cast<std::uint32_t>(text.size());
+  if (size > 0) {
+    splice(begin, begin, text);
+  }
+  moveEnds(item, size);
+  insertEnd(item, begin + size);
 }
 
 void TextList::Remove(std::int32_t position) {
-  texts_.erase(texts_.begin() + static_cast<std::ptrdiff_t>(index(position)));
+  const std::uint32_t item = index(position);
+  if (units_ != nullptr) {
+    const std::uint32_t size = end(item) - start(item);
+    if (size > 0) {
+      splice(start(item), end(item), {});
+    }
+    moveEnds(item + 1, 0 - size);
+    if (moreEnds_ != nullptr) {
+      moreEnds_->erase(moreEnds_->begin() + static_cast<std::ptrdiff_t>(item));
+    } else {
+      std::copy(fewEnds_ + item + 1, fewEnds_ + count_, fewEnds_ + item);
+    }
+  }
+  --count_;
 }
 
-void TextList::setImage(std::shared_ptr<const void> image) {
-  image_ = std::move(image);
+void TextList::Replace(std::int32_t position, TextView text) {
+  const std::uint32_t item = index(position);
+  if (units_ == nullptr && text.empty()) {
+    return;
+  }
+  if (units_ == nullptr) {
+    makeEnds();
+  }
+  const std::uint32_t begin = start(item);
+  const std::uint32_t old = units_ != nullptr ? end(item) : 0;
+  splice(begin, old, text);
+  moveEnds(item, static_cast<std::uint32_t>(text.size()) - (old - begin));
+}
+
+void TextList::AddEmpty(std::int32_t count) {
+  for (; units_ != nullptr && count > 0; --count) {
+    makeEnds();
+    insertEnd(count_, length());
+  }
+  count_ += static_cast<std::uint32_t>(std::max(count, 0));
 }
 
 void TextList::AddView(TextView text) {
-  texts_.push_back(StoredText::view(text));
+  const std::uint32_t end = length();
+  const bool isFirst = units_ == nullptr;
+  if (text.empty() || capacity_ > 0 || (!isFirst && units_ + end != text.data())) {
+    Add(text);
+    return;
+  }
+  makeEnds();
+  if (isFirst) {
+    units_ = text.data();
+  }
+  insertEnd(count_, end + static_cast<std::uint32_t>(text.size()));
 }
 
 }  // namespace kob

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <kobtraduction/base/Export.h>
-#include <kobtraduction/base/StoredText.h>
+#include <kobtraduction/base/Failure.h>
 #include <kobtraduction/base/Text.h>
 
 #include <cstdint>
@@ -11,45 +11,80 @@
 
 namespace kob {
 
-/// The texts of one entry, item i in language i. It reads like an OrderedList of texts, but a text may be a
-/// view into an image that the list keeps alive (a loaded file): such a text costs no allocation of its own,
-/// and only what is added by value is owned. A position outside 1..count fails with FailureKind::InvalidIndex
-/// and changes nothing. Used on one thread.
+/// The texts of one entry, item i in language i. It reads like an OrderedList of texts, but the texts lie one
+/// behind the other in one run of characters: the list's own, or a part of an image that the list keeps alive
+/// (a loaded file), which costs no allocation. The first change of a run that is not the list's own copies
+/// it. A position outside 1..count fails with FailureKind::InvalidIndex and changes nothing. Used on one
+/// thread.
 class KOB_EXPORT TextList {
  public:
-  TextList() = default;
-  TextList(const TextList&) = delete;
-  TextList& operator=(const TextList&) = delete;
+  TextList() noexcept;
+  /// So many texts, all "": as cheap as none, however many. A negative count is 0.
+  explicit TextList(std::int32_t count) noexcept;
+  TextList(TextList&& other) noexcept;
+  TextList& operator=(TextList&& other) noexcept;
   ~TextList();
 
-  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(texts_.size()); }
+  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(count_); }
 
   /// The text at a position; the view lives until the list is changed.
-  TextView Item(std::int32_t position) const;
+  TextView Item(std::int32_t position) const {
+    const std::uint32_t item = index(position);
+    return units_ != nullptr ? TextView(units_ + start(item), end(item) - start(item)) : TextView();
+  }
 
-  /// Makes room for so many items in one piece; nothing that can be asked for changes. A language count may
-  /// be negative: no room then.
-  void Reserve(std::int32_t count);
+  // A text that is passed in may be a view of one of the list's own.
 
   void Add(TextView text);
   /// Inserts in front of the item at `before`.
   void Add(TextView text, std::int32_t before);
   void Remove(std::int32_t position);
+  /// Puts a text in the place of another one.
+  void Replace(std::int32_t position, TextView text);
+  /// Appends so many "".
+  void AddEmpty(std::int32_t count);
 
-  /// Keeps `image` alive as long as the list lives; views into it may then be added. One image per list.
-  void setImage(std::shared_ptr<const void> image);
-  /// Appends a text that stays where it is; it must lie in the list's image or be static.
+  /// Keeps `image` alive as long as texts of the list lie in it; views into it may then be added. One image
+  /// per list.
+  void setImage(std::shared_ptr<const void> image) noexcept { image_ = std::move(image); }
+  /// Appends a text that lies in the list's image or is static. It stays where it is when it begins where the
+  /// texts before it end; one that lies elsewhere turns the list's texts into its own.
   void AddView(TextView text);
 
  private:
-  std::size_t index(std::int32_t position) const;
+  /// More languages are rare; the ends of their texts lie apart.
+  static constexpr std::uint32_t fewTexts = 6;
+  using Ends = std::vector<std::uint32_t>;
 
-  std::vector<StoredText> texts_;
+  std::uint32_t index(std::int32_t position) const {
+    if (position < 1 || static_cast<std::uint32_t>(position) > count_) {
+      throw Failure(FailureKind::InvalidIndex);
+    }
+    return static_cast<std::uint32_t>(position) - 1;
+  }
+  const std::uint32_t* ends() const noexcept { return moreEnds_ != nullptr ? moreEnds_->data() : fewEnds_; }
+  std::uint32_t* ends() noexcept { return moreEnds_ != nullptr ? moreEnds_->data() : fewEnds_; }
+  std::uint32_t end(std::uint32_t item) const noexcept { return ends()[item]; }
+  std::uint32_t start(std::uint32_t item) const noexcept { return item > 0 ? ends()[item - 1] : 0; }
+  std::uint32_t length() const noexcept { return units_ != nullptr ? start(count_) : 0; }
+
+  /// Gives every text an end, when only "" was there so far, and has room for one more.
+  void makeEnds();
+  /// Into the room that makeEnds made.
+  void insertEnd(std::uint32_t item, std::uint32_t end) noexcept;
+  /// Puts `text` in the place of the units first..last of the run; the ends are the caller's.
+  void splice(std::uint32_t first, std::uint32_t last, TextView text);
+  void moveEnds(std::uint32_t firstItem, std::uint32_t by) noexcept;
+
+  /// Null as long as all texts are ""; no text has an end then.
+  const char16_t* units_ = nullptr;
+  std::uint32_t count_ = 0;
+  /// How many units the list's own run can take; 0 when the run is not the list's own.
+  std::uint32_t capacity_ = 0;
+  /// Where each text ends in the run.
+  std::uint32_t fewEnds_[fewTexts] = {};
+  std::unique_ptr<Ends> moreEnds_;
   std::shared_ptr<const void> image_;
 };
-
-inline TextView TextList::Item(std::int32_t position) const {
-  return texts_[index(position)].text();
-}
 
 }  // namespace kob

@@ -5,6 +5,7 @@
 #include <kobtraduction/model/PathMemo.h>
 #include <kobtraduction/persistence/PersistStream.h>
 
+#include <algorithm>
 #include <memory>
 #include <typeinfo>
 #include <utility>
@@ -22,6 +23,9 @@ constexpr std::int32_t modelVersion = 1;
 constexpr std::int32_t entryVersion = 1;
 constexpr std::int32_t cellVersion = 2;
 
+/// A caption and a tool tip. The count that a record tells is not trusted before its entries are there.
+constexpr std::int32_t usualEntries = 2;
+
 /// A record stops where it fails, and says so to nobody but the flag of the thread.
 template <class Steps>
 void guarded(Steps steps) {
@@ -33,8 +37,8 @@ void guarded(Steps steps) {
   }
 }
 
-template <class T>
-T& mustBeSet(const std::shared_ptr<T>& object) {
+template <class Pointer>
+auto& mustBeSet(const Pointer& object) {
   if (object == nullptr) {
     throw Failure(FailureKind::ObjectNotSet);
   }
@@ -56,8 +60,7 @@ std::shared_ptr<T> readObject(PersistStream& stream) {
   return std::static_pointer_cast<T>(object);
 }
 
-PersistValue factorValue(const FactorList& factors, std::int32_t language) {
-  const Factor& factor = factors.Item(language);
+PersistValue factorValue(Factor factor) {
   return factor.isDouble() ? PersistValue::ofDouble(factor.value()) : PersistValue::smallInteger(1);
 }
 
@@ -142,15 +145,15 @@ void KOBCellTraduction::write(PersistStream& stream) {
 void KOBCellTraduction::writeControl(PersistStream& stream) const {
   stream.WriteValue(PersistValue::ofLong(m_left()));
   stream.WriteValue(PersistValue::ofLong(m_width()));
-  const EntryList& entries = mustBeSet(ColTraduction());
-  stream.WriteValue(PersistValue::ofLong(entries.Count()));
-  for (const auto& entry : entries) {
+  const EntryList& list = mustBeSet(entries());
+  stream.WriteValue(PersistValue::ofLong(list.Count()));
+  for (const auto& entry : list) {
     stream.WriteValue(PersistValue::object(entry));
   }
   for (std::int32_t language = 1, last = Global_Util::NbLangues(); language <= last; ++language) {
     // Width before left, the other way round than everywhere else: files have always been written so.
-    stream.WriteValue(factorValue(mustBeSet(ColWidth()), language));
-    stream.WriteValue(factorValue(mustBeSet(ColLeft()), language));
+    stream.WriteValue(factorValue(widthFactor(language)));
+    stream.WriteValue(factorValue(leftFactor(language)));
   }
 }
 
@@ -184,15 +187,32 @@ void KOBCellTraduction::readControl(PersistStream& stream) {
   setm_left(readIndicator(stream));
   setm_width(readIndicator(stream));
   const std::int32_t count = stream.ReadValue().toLong();
-  setColTraduction(std::make_shared<EntryList>());
+  EntryList& list = colTraduction_.renew(EntryList());
+  list.Reserve(std::clamp(count, 0, usualEntries));
   for (std::int32_t i = 0; i < count; ++i) {
-    ColTraduction()->Add(readObject<KOBTraductionObj>(stream));
+    list.Add(readObject<KOBTraductionObj>(stream));
   }
-  setColWidth(std::make_shared<FactorList>());
-  setColLeft(std::make_shared<FactorList>());
+  readFactors(stream);
+}
+
+void KOBCellTraduction::readFactors(PersistStream& stream) {
+  dropFactors();
+  untouched_ = 0;
   for (std::int32_t left = Global_Util::NbLangues(); left > 0; --left) {
-    ColWidth()->Add(readFactor(stream));
-    ColLeft()->Add(readFactor(stream));
+    const Factor widthRead = readFactor(stream);
+    Factor leftRead;
+    try {
+      leftRead = readFactor(stream);
+    } catch (...) {
+      ColWidth()->Add(widthRead);
+      throw;
+    }
+    if (untouched_ >= 0 && !widthRead.isDouble() && !leftRead.isDouble()) {
+      ++untouched_;
+    } else {
+      ColWidth()->Add(widthRead);
+      ColLeft()->Add(leftRead);
+    }
   }
 }
 
@@ -220,18 +240,18 @@ void KOBTraductionObj::read(PersistStream& stream) {
   guarded([&] {
     stream.Version();
     setnom(stream.ReadValue().toText());
-    setColTraduction(std::make_shared<TextList>());
-    const std::shared_ptr<const void> image = stream.image();
-    TextList& list = texts();
-    if (image != nullptr) {
-      list.setImage(image);
-    }
+    TextList& list = colTraduction_.renew(TextList());
+    std::shared_ptr<const void> image = stream.image();
+    const bool hasImage = image != nullptr;
+    list.setImage(std::move(image));
     for (std::int32_t left = Global_Util::NbLangues(); left > 0; --left) {
       const PersistValue& value = stream.ReadValue();
-      if (image != nullptr && value.type() == PersistType::String) {
+      if (value.type() != PersistType::String) {
+        list.Add(value.toText());
+      } else if (hasImage) {
         list.AddView(value.text());
       } else {
-        list.Add(value.toText());
+        list.Add(value.text());
       }
     }
   });

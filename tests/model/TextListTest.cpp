@@ -124,5 +124,74 @@ TEST(TextListOf, ALongTextIsKeptWhole) {
   EXPECT_EQ(list.Item(1), text);
 }
 
+TEST(TextListOf, ReplacesATextByAShorterAndALongerOne) {
+  const auto list = textList({u"one", u"two", u"three"});
+  list->Replace(2, u"a longer one");
+  EXPECT_EQ(texts(*list), (Texts{u"one", u"a longer one", u"three"}));
+  list->Replace(2, u"");
+  EXPECT_EQ(texts(*list), (Texts{u"one", u"", u"three"}));
+  list->Replace(1, list->Item(3));
+  list->Replace(3, list->Item(1).substr(1));
+  EXPECT_EQ(texts(*list), (Texts{u"three", u"", u"hree"}));
+  for (const std::int32_t position : noPositions) {
+    EXPECT_EQ(failureOf([&] { list->Replace(position, u"x"); }), FailureKind::InvalidIndex);
+  }
+}
+
+TEST(TextListOf, AnyNumberOfEmptyTextsCostsNothing) {
+  TextList list(std::numeric_limits<std::int32_t>::max());
+  EXPECT_EQ(list.Count(), std::numeric_limits<std::int32_t>::max());
+  EXPECT_EQ(list.Item(list.Count()), u"");
+  EXPECT_EQ(TextList(-1).Count(), 0);
+}
+
+/// Every operation on lists of every length around the one up to which the ends lie inside, beside a vector.
+TEST(TextListOf, ReadsLikeAPlainListThroughoutManyChanges) {
+  for (std::int32_t start = 0; start <= 9; ++start) {
+    TextList list(start);
+    Texts plain(static_cast<std::size_t>(start));
+    std::uint32_t state = 7;
+    for (int step = 0; step < 400; ++step) {
+      state = state * 1664525 + 1013904223;
+      const std::int32_t count = list.Count();
+      const auto at = static_cast<std::int32_t>((state >> 8) % static_cast<std::uint32_t>(count + 1));
+      const Text text((state >> 16) % 5, static_cast<char16_t>(u'a' + step % 26));
+      switch (at < count ? state >> 29 : 0) {
+        case 0:
+        case 1:
+          list.Add(text);
+          plain.push_back(text);
+          break;
+        case 2:
+          list.Add(text, at + 1);
+          plain.insert(plain.begin() + at, text);
+          break;
+        case 3:
+        case 4:
+          list.Remove(at + 1);
+          plain.erase(plain.begin() + at);
+          break;
+        case 5:
+          list.AddEmpty(2);
+          plain.resize(plain.size() + 2);
+          break;
+        default:
+          list.Replace(at + 1, text);
+          plain[static_cast<std::size_t>(at)] = text;
+      }
+      ASSERT_EQ(texts(list), plain) << "step " << step << " from " << start;
+    }
+  }
+}
+
+TEST(TextListOf, MovesWithItsTexts) {
+  TextList list;
+  for (const TextView text : {u"a", u"b", u"c", u"d", u"e", u"f", u"g", u"h"}) {
+    list.Add(text);
+  }
+  const TextList moved(std::move(list));
+  EXPECT_EQ(texts(moved), (Texts{u"a", u"b", u"c", u"d", u"e", u"f", u"g", u"h"}));
+}
+
 }  // namespace
 }  // namespace kob::test
