@@ -30,7 +30,8 @@ class KOB_EXPORT PersistStream {
   virtual const PersistValue& ReadValue() = 0;
 
   /// What keeps the characters of the texts that were read alive: an object may hold on to it and go on using
-  /// the views instead of copying them. Null (as here) when texts live no longer than the call says.
+  /// the views instead of copying them. Texts read one after the other should lie one behind the other then:
+  /// an entry keeps its texts as one run. Null (as here) when texts live no longer than the call says.
   virtual std::shared_ptr<const void> image() const;
 };
 

@@ -15,7 +15,10 @@ void ScriptedStream::failAt(int operation, std::function<void()> raise) {
 }
 
 void ScriptedStream::keepTexts() {
-  kept_ = std::make_shared<std::vector<RecordValue>>(record_.values);
+  kept_ = std::make_shared<Text>();
+  for (const RecordValue& value : record_.values) {
+    *kept_ += value.text;
+  }
 }
 
 void ScriptedStream::step() {
@@ -54,8 +57,9 @@ const PersistValue& ScriptedStream::ReadValue() {
   if (next_ == record_.values.size()) {
     throw PersistFailure(u"the record ends");
   }
-  if (kept_ != nullptr) {
-    value_ = viewOf((*kept_)[next_]);
+  if (kept_ != nullptr && record_.values[next_].type == PersistType::String) {
+    value_ = PersistValue::string(TextView(*kept_).substr(keptRead_, record_.values[next_].text.size()));
+    keptRead_ += record_.values[next_].text.size();
   } else {
     lent_ = std::make_unique<RecordValue>(record_.values[next_]);
     value_ = viewOf(*lent_);

@@ -20,7 +20,7 @@ class ScriptedStream : public PersistStream {
   /// The n-th operation from the beginning, counted from 1, fails and does nothing: with a PersistFailure, or
   /// with what `raise` throws.
   void failAt(int operation, std::function<void()> raise = nullptr);
-  /// From now on the texts that are read live as long as image() is kept.
+  /// From now on the texts that are read lie one behind the other, and live as long as image() is kept.
   void keepTexts();
 
   const Record& record() const noexcept { return record_; }
@@ -47,7 +47,9 @@ class ScriptedStream : public PersistStream {
   /// What was read last.
   std::unique_ptr<RecordValue> lent_;
   PersistValue value_ = PersistValue::ofLong(0);
-  std::shared_ptr<std::vector<RecordValue>> kept_;
+  std::shared_ptr<Text> kept_;
+  /// How much of what is kept was read.
+  std::size_t keptRead_ = 0;
 };
 
 }  // namespace kob::testing
