@@ -4,6 +4,6 @@
 #include <kobpersistence/KOBPersistence.h>
 
 int main(int argc, char** argv) {
-  kob::setPersistenceService(&kob::makeFileManager);
+  kob::usePersistence();
   return kob::command::run(argc, argv);
 }
