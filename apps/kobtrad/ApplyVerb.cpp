@@ -9,6 +9,7 @@
 
 #include <kobtraductionqt/KOBTraductionQt.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace kob::command {
@@ -33,7 +34,9 @@ Status apply(const ApplyOptions& options) {
   const HostRef host = qt::hostForm(form.get());
   CommandBoxes boxes;
   Status status = Status::Fine;
-  const Text path = model.GetPath(host, module);
+  // The path of a form begins with a divider, which says nothing to a person.
+  const Text whole = model.GetPath(host, module);
+  const TextView path = TextView(whole).substr(std::min(whole.find_first_not_of(u'\\'), whole.size()));
   if (model.GetCell(path) == nullptr) {
     tell(options.file + " holds nothing of the form \"" + visible(path) + "\"; harvest it first");
     status = Status::Findings;
