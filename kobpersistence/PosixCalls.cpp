@@ -5,7 +5,9 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdio>
+#include <thread>
 
 namespace kob::persistence {
 
@@ -77,6 +79,10 @@ int PosixCalls::rename(const char* from, const char* to) {
 
 int PosixCalls::unlink(const char* path) {
   return ::unlink(path);
+}
+
+void PosixCalls::pause() {
+  std::this_thread::sleep_for(std::chrono::milliseconds(20));
 }
 
 }  // namespace kob::persistence

@@ -34,6 +34,8 @@ class KOB_PERSISTENCE_EXPORT PosixCalls {
   virtual int fsync(int file);
   virtual int rename(const char* from, const char* to);
   virtual int unlink(const char* path);
+  /// Waits a moment for another save of the same file.
+  virtual void pause();
 };
 
 /// Files by these calls, which must outlive the storage.

@@ -9,10 +9,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <climits>
 #include <string>
-#include <thread>
 #include <utility>
 
 namespace kob::persistence {
@@ -20,9 +18,10 @@ namespace kob::persistence {
 namespace {
 
 constexpr int mostLinks = 40;
-/// How long a save waits for another one of the same file.
-constexpr std::chrono::milliseconds patience(10'000);
-constexpr std::chrono::milliseconds pause(20);
+/// How often a save waits a moment for another one of the same file: ten seconds in all.
+constexpr int patience = 500;
+/// A name may have 255 bytes, and the new file's has a few more than the old one's.
+constexpr std::size_t mostOfName = 200;
 
 template <class Call>
 auto unlessInterrupted(Call call) {
@@ -58,11 +57,16 @@ std::string folderOf(const std::string& path) {
   return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
 }
 
-/// The file that a save writes to before it takes the place of the old one.
+/// The file that a save writes to before it takes the place of the old one. Long names are cut: files that
+/// meet there wait for each other.
 std::string scratchOf(const std::string& path) {
   const std::size_t slash = path.rfind('/');
-  const std::size_t name = slash == std::string::npos ? 0 : slash + 1;
-  return path.substr(0, name) + '.' + path.substr(name) + ".kobtmp";
+  const std::size_t start = slash == std::string::npos ? 0 : slash + 1;
+  std::size_t end = std::min(path.size(), start + mostOfName);
+  while (end < path.size() && (static_cast<unsigned char>(path[end]) & 0xC0) == 0x80) {
+    --end;
+  }
+  return path.substr(0, start) + '.' + path.substr(start, end - start) + ".kobtmp";
 }
 
 bool isSameFile(const struct stat& a, const struct stat& b) noexcept {
@@ -260,8 +264,7 @@ class PosixStorage final : public Storage {
   /// A new file of that name that is locked by this save. The lock goes with the process: a file that is
   /// there and not locked was left by a save that was killed.
   OpenFile create(const std::string& target, const std::string& scratch) {
-    const auto start = std::chrono::steady_clock::now();
-    while (std::chrono::steady_clock::now() - start < patience) {
+    for (int left = patience; left > 0; --left) {
       OpenFile file(calls_, openScratch(scratch, O_CREAT | O_EXCL));
       const bool isNew = file.isOpen();
       if (!isNew) {
@@ -280,7 +283,7 @@ class PosixStorage final : public Storage {
           }
           throw fileFailure(target, u"locked", error);
         }
-        std::this_thread::sleep_for(pause);
+        calls_.pause();
       } else if (isStill(file, scratch)) {
         if (isNew) {
           return file;
