@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #pragma once
 
+#include <kobtraduction/base/Export.h>
 #include <kobtraduction/model/KOBModeleTraduction.h>
 
 #include <cstddef>
@@ -15,7 +16,7 @@ namespace kob {
 /// or the failure, that a call for it gives. As completing an entry from its list adds nothing that the other
 /// lists would take differently, the lists can be made first and the entries be completed after. The texts
 /// must outlive it. Internal.
-class KnownTexts {
+class KOB_EXPORT KnownTexts {
  public:
   KnownTexts(const KOBModeleTraduction& model, const std::vector<Text>& references);
 

@@ -44,14 +44,18 @@ TEST_F(EditorDisplay, AControlsTextsBeyondTheSixthAreNotShown) {
   });
 }
 
-TEST_F(EditorDisplay, TheBoxesOfAShorterMessageAreEmptied) {
-  message(app, u"long", {u"a", u"b", u"c", u"d", u"e", u"f"});
-  message(app, u"short", {u"x"});
-  edit(u"App\\long", [](Person& person) {
-    // The list is too short to be completed, and the click fails by it; opening on it does not.
-    EXPECT_TRUE(person.sees(u"FrMessage"));
+TEST_F(EditorDisplay, TheBoxesAreEmptiedBeforeAnotherCellIsShown) {
+  message(app, u"all", {u"a", u"b", u"c", u"d", u"e", u"f"});
+  message(app, u"one", {u"x", {}, {}, {}, {}, {}});
+  edit(u"App\\all", [](Person& person) {
+    person.clickTag(u"App\\one");
+    EXPECT_THAT(person.texts(u"tbTradMessage"), ElementsAre(u"x", u"", u"", u"", u"", u""));
   });
-  edit(u"App\\short", [](Person& person) {
+}
+
+TEST_F(EditorDisplay, AShortMessageLeavesTheOtherBoxesEmpty) {
+  message(app, u"one", {u"x"});
+  edit(u"App\\one", [](Person& person) {
     EXPECT_THAT(person.texts(u"tbTradMessage"), ElementsAre(u"x", u"", u"", u"", u"", u""));
   });
 }

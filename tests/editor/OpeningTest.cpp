@@ -92,9 +92,11 @@ TEST_F(EditorOpening, OnlyTopLevelNodesAreUnfolded) {
   });
 }
 
-TEST_F(EditorOpening, TheChildrenOfATopLevelLeafThatKeepsAListAreNotShown) {
-  app->AddNoeuds(u"Form");
+TEST_F(EditorOpening, TheListThatAHostGaveALeafIsNotShown) {
+  const auto children = app->ColCell();
+  children->Add(named(u"child"));
   app->setTypeCell(2);
+  app->setColCell(children);
   edit(u"", [](Person& person) { EXPECT_EQ(person.tree().count(), 1); });
 }
 
