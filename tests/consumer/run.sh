@@ -29,11 +29,18 @@ cmake --install "$build" --prefix "$first" >"$folder/log" 2>&1 || { cat "$folder
 # An installed tree does not remember where it was put first.
 mv "$first" "$prefix"
 
+# The README: what it types, which makes the translation file that its example reads, and that example.
+awk '/^```console$/ {inside = 1; next} /^```$/ {inside = 0} inside && sub(/^\$ /, "")' "$here/../../README.md" \
+  >"$folder/commands.sh"
+ln -s "$here/../../docs" "$folder/docs"
 awk '/^```cpp$/ {inside = 1; next} /^```$/ {if (inside) exit} inside' "$here/../../README.md" >"$folder/snippet.h"
 export CMAKE_PREFIX_PATH="$prefix" QT_QPA_PLATFORM=offscreen
 libraries=$(dirname "$(find "$prefix" -name 'libKOBTraduction.so')")
 export PKG_CONFIG_PATH="$libraries/pkgconfig"
 
+in_folder() { # COMMAND...
+  (cd "$folder" && PATH="$prefix/bin:$PATH" "$@")
+}
 configure() { # FOLDER OPTION...
   local out=$1
   shift
@@ -52,7 +59,10 @@ check "CMake, the component alone, runs" "$folder/core/core"
 check "CMake, with the Qt binding, builds" configure qt "-DCONSUMER_SNIPPET=$folder/snippet.h"
 check "CMake, with the Qt binding, the component runs" "$folder/qt/core"
 check "CMake, with the Qt binding, a form runs" "$folder/qt/form"
-check "the example of the README runs" "$folder/qt/readme"
+check "the commands of the README run" in_folder bash -e commands.sh
+check "the example of the README runs" in_folder qt/readme
+check "the command's manual and completion are installed" test -s "$prefix/share/man/man1/kobtrad.1" -a \
+  -s "$prefix/share/bash-completion/completions/kobtrad"
 check "pkg-config, the component alone, builds" by_pkg_config pc-core core.cpp kobtraduction
 check "pkg-config, the component alone, runs" "$folder/pc-core"
 check "pkg-config, with the Qt binding, builds" by_pkg_config pc-form form.cpp kobtraduction-qt

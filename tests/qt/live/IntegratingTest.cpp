@@ -4,6 +4,8 @@
 #include "LiveForms.h"
 #include "LiveModel.h"
 
+#include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTimer>
 
 #include <gmock/gmock.h>
@@ -37,6 +39,33 @@ TEST_F(Integrating, SettingATextThatWasNotHarvestedFails) {
   EXPECT_TRUE(setText(model, u"FrmClients\\btnOk", u"caption", 2, QStringLiteral("x")));
   EXPECT_FALSE(setText(model, u"FrmClients\\unknown", u"Caption", 2, QStringLiteral("x")));
   EXPECT_FALSE(setText(model, u"FrmClients\\lblNom", u"ToolTip", 2, QStringLiteral("x")));
+}
+
+TEST_F(Integrating, AFileIsMadeAndAddedTo) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("app.trad"));
+  ASSERT_TRUE(harvestIntoFile(form, file));
+  ASSERT_TRUE(model.Load(toText(file)));
+  fillEnglish(model);
+  ASSERT_TRUE(model.Save(toText(file)));
+  form.lblNom->setText(QStringLiteral("Nom de famille"));
+  ASSERT_TRUE(harvestIntoFile(form, file));
+  ASSERT_TRUE(model.Load(toText(file)));
+  EXPECT_EQ(model.GetCell(u"FrmClients\\btnOk")->ColTraduction()->Item(1)->ColTraduction()->Item(2),
+            u"&Accept");
+  EXPECT_EQ(model.GetCell(u"FrmClients\\lblNom")->ColTraduction()->Item(1)->ColTraduction()->Item(1),
+            u"Nom de famille");
+}
+
+TEST_F(Integrating, AFileThatIsNoTranslationFileStaysAsItIs) {
+  QTemporaryFile file;
+  ASSERT_TRUE(file.open());
+  file.write("Bonjour");
+  file.close();
+  EXPECT_FALSE(harvestIntoFile(form, file.fileName()));
+  EXPECT_EQ(recorded.notices.size(), 1);
+  ASSERT_TRUE(file.open());
+  EXPECT_EQ(file.readAll(), QByteArray("Bonjour"));
 }
 
 TEST_F(Integrating, Parts) {
