@@ -95,6 +95,7 @@ void Container::findRecords(const Byte* from, TextView firstClass) {
     throw badFile(at::records, u"there are fewer records than the header says");
   }
   offsets_.reserve(count);
+  MakeObject firstMake = nullptr;
   for (std::uint32_t i = 0; i < count; ++i) {
     const Byte* const start = from;
     std::uint32_t length = 0;
@@ -108,6 +109,13 @@ void Container::findRecords(const Byte* from, TextView firstClass) {
     if (i == 0 && classes_[*from].name != firstClass) {
       throw failure({u"The file holds an object of the class \"", classes_[*from].name, u"\" and not \"",
                      firstClass, u"\". Choose another one."});
+    }
+    const MakeObject make = classes_[*from].make;
+    if (i == 0) {
+      firstMake = make;
+    } else if (make == firstMake) {
+      // It would set the language count in the midst of records that are read with another one.
+      throw badRecord(i, offsetOf(start), u"an object of the first one's class lies within it");
     }
     ++from;
     std::uint32_t version = 0;

@@ -35,6 +35,10 @@ class Loading final : private FilledObjects {
       if (failure_ != nullptr) {
         std::rethrow_exception(failure_);
       }
+      if (!isFilled_) {
+        // The object gave up before it asked for another one.
+        checkLanguages();
+      }
     } catch (...) {
       Global_Util::setNbLangues(languagesBefore);
       throw;

@@ -329,6 +329,26 @@ TEST_F(WrongRecordTest, MoreLanguagesThanMemoryShouldBeSpentOn) {
               HasSubstr("2000000000 languages are more than its texts are in"));
 }
 
+TEST_F(WrongRecordTest, ANegativeNumberOfLanguagesOfAModelThatNamesNoRoot) {
+  EXPECT_THAT(refused(TestFile{.records = {record(0, 1, longValue(-1))}}),
+              HasSubstr("-1 languages are more than its texts are in"));
+}
+
+TEST_F(WrongRecordTest, AModelWithinAModelWhichWouldSetItsOwnNumberOfLanguages) {
+  const FileBytes values = letters("RACINE") + emptyText + nextObject;
+  EXPECT_THAT(refused(TestFile{.records = {modelRecord(6), record(1, 2, values), record(0, 1, longValue(9))},
+                               .units = 6}),
+              HasSubstr("in record 2, an object of the first one's class lies within it"));
+}
+
+TEST_F(WrongRecordTest, AModelWithinAModelThatIsNamedByAnotherPlaceInTheClassTable) {
+  TestFile file{.records = {modelRecord(6), record(1, 2, letters("RACINE") + emptyText + nextObject),
+                            record(3, 1, longValue(9))},
+                .units = 6};
+  file.classes.push_back(file.classes.front());
+  EXPECT_THAT(refused(file), HasSubstr("in record 2, an object of the first one's class lies within it"));
+}
+
 TEST_F(WrongRecordTest, ManyLanguagesOfAModelWithoutTextsAreRight) {
   inMemory()[u"m.trad"] = TestFile{.records = {modelRecord(500'000), rootRecord()}}.bytes();
   EXPECT_TRUE(model.Load(u"m.trad")) << lastNotice();

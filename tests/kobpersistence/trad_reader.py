@@ -133,6 +133,7 @@ class File:
             while part.at < part.end:
                 before = self.value(part, number, values, before, waiting)
             need(self.heights[number] <= DEEPEST, "nested too deep")
+            need(number == 0 or self.classes[part.class_number] != KNOWN[0], "a model within a model")
             self.records[number] = {"class": self.classes[part.class_number], "version": part.version,
                                     "values": values}
             waiting.append(number)
