@@ -8,6 +8,7 @@ declare -A packages=(
   [test]="libgtest-dev libgmock-dev librapidcheck-dev libicu-dev pkg-config python3 git unicode-data xdotool x11-utils
           clang-14"
   [lint]="clang-14 clang-format-14 clang-tidy-14 shellcheck python3 git unicode-data"
+  [fuzz]="clang-14 libclang-rt-14-dev llvm-14"
   [bench]="libbenchmark-dev gettext"
 )
 

@@ -5,7 +5,7 @@
 # failed, and counts as one failure.
 
 whole=no
-stages=(lint suite asan no-gui headers consumer demo fidelity)
+stages=(lint suite asan no-gui headers consumer demo fidelity fuzz)
 results="$root/build/results"
 
 counted() {
@@ -108,6 +108,14 @@ stage_fidelity() {
     { tail -n 40 "$results/fidelity.log"; return 1; }
   grep '^fidelity: ' "$results/fidelity.log"
   counted 1 0 0
+}
+
+stage_fuzz() {
+  local counts="$results/fuzz.out"
+  rm -f "$counts"
+  run_fuzz 60 "$counts" || true
+  # shellcheck disable=SC2046
+  counted $(cat "$counts")
 }
 
 stage_mutate() {
