@@ -141,16 +141,16 @@ void repairRecords(std::vector<Record>& records) {
     bool mayRepeat = false;
     for (Value& value : record.values) {
       const auto tag = static_cast<Tag>(value.tag);
+      const bool isUnnamed =
+          (tag == Tag::NextObject && waiting == 0) || (tag == Tag::NumberedObject && i + 1 == records.size());
       if ((tag == Tag::SameText && !mayRepeat) || (isText(value) && value.number == 0)) {
         value = {static_cast<Byte>(Tag::EmptyText)};
-      } else if (tag == Tag::NextObject && waiting == 0) {
+      } else if (isUnnamed) {
         value = {static_cast<Byte>(Tag::Nothing)};
       } else if (tag == Tag::NextObject) {
         --waiting;
-      } else if (tag == Tag::NumberedObject && i + 1 < records.size()) {
-        value.number = static_cast<std::uint32_t>(i + 1 + value.number % (records.size() - i - 1));
       } else if (tag == Tag::NumberedObject) {
-        value = {static_cast<Byte>(Tag::Nothing)};
+        value.number = static_cast<std::uint32_t>(i + 1 + value.number % (records.size() - i - 1));
       }
       mayRepeat = isText(value) || (mayRepeat && static_cast<Tag>(value.tag) != Tag::EmptyText &&
                                     static_cast<Tag>(value.tag) != Tag::SameText);
