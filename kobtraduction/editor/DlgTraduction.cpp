@@ -53,7 +53,7 @@ void DlgTraduction::connect() {
 }
 
 void DlgTraduction::Show() {
-  Activate();
+  handler([this] { Activate(); })();
   window_->showModal();
 }
 

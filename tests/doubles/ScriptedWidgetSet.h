@@ -102,6 +102,8 @@ class ScriptedWidgetSet final : public WidgetSet {
   /// What the person does when a window of that kind is shown next; in order. A window without a script is
   /// closed at once.
   void whenShown(DialogKind kind, Script script) { scripts_[kind].push_back(std::move(script)); }
+  /// Forgets what was to be done in windows of that kind.
+  void dropScripts(DialogKind kind) { scripts_[kind].clear(); }
   /// Which windows were shown, in order.
   std::vector<DialogKind> shown;
   /// Windows that are alive.

@@ -154,6 +154,11 @@ TEST_F(EditorSaving, LookingAroundMarksNothing) {
   });
 }
 
+TEST_F(EditorSaving, TheStatusLineIsEmptyWhenTheEditorOpensOnAControl) {
+  control(app, u"c", {caption(u"Oui")});
+  edit(u"App\\c", [](Person& person) { EXPECT_EQ(person.caption(u"lbStatus"), u""); });
+}
+
 TEST_F(EditorSaving, TheStatusLineTellsWhileNothingIsRecorded) {
   message(form, u"m", {u"Oui", {}, {}, {}, {}, {}});
   answer(DialogKind::Recherche, [](Person& person) {
