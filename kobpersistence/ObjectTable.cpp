@@ -9,11 +9,17 @@ namespace {
 
 constexpr std::size_t firstPlaces = 1024;
 
-/// Objects made one behind the other lie side by side in the table, too, so that walking over them walks over
-/// it; the upper bits of the address spread what would fall together.
+/// Places that lie on one line of the processor's cache, and that much memory for each.
+constexpr std::size_t placesPerLine = 16;
+constexpr unsigned memoryPerPlace = 5;
+constexpr unsigned memoryPerLine = memoryPerPlace + 4;
+
+/// Objects made one behind the other share a line, as they are met one behind the other; lines are spread
+/// over the whole table.
 std::size_t hash(const IKOBVBPersistStream* object) noexcept {
-  const auto address = std::bit_cast<std::uintptr_t>(object);
-  return (address >> 5) + (address >> 20) * 0x9E37'79B9;
+  const std::uint64_t address = std::bit_cast<std::uintptr_t>(object);
+  const std::uint64_t line = ((address >> memoryPerLine) * 0x9E37'79B9'7F4A'7C15) >> 32;
+  return static_cast<std::size_t>(line * placesPerLine + (address >> memoryPerPlace) % placesPerLine);
 }
 
 }  // namespace
