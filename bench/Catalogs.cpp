@@ -47,9 +47,11 @@ std::string quoted(const std::string& text) {
   return result + '"';
 }
 
-}  // namespace
+QString qtTool(const QString& name) {
+  return QStandardPaths::findExecutable(name, {QLibraryInfo::path(QLibraryInfo::BinariesPath)});
+}
 
-QString compileQtCatalog(const std::vector<Message>& messages, const QString& folder, const QString& name) {
+std::string tsOf(const std::vector<Message>& messages) {
   std::string ts = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<!DOCTYPE TS>\n<TS version=\"2.1\">\n";
   const std::string* context = nullptr;
   for (const Message& message : messages) {
@@ -62,11 +64,18 @@ QString compileQtCatalog(const std::vector<Message>& messages, const QString& fo
           escapedXml(message.translation) + "</translation></message>\n";
   }
   ts += context != nullptr ? "</context>\n</TS>\n" : "</TS>\n";
+  return ts;
+}
+
+constexpr const char* poHeader = "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n\n";
+
+}  // namespace
+
+QString compileQtCatalog(const std::vector<Message>& messages, const QString& folder, const QString& name) {
   const QString source = folder + '/' + name + ".ts";
   QString compiled = folder + '/' + name + ".qm";
-  const QString lrelease =
-      QStandardPaths::findExecutable("lrelease", {QLibraryInfo::path(QLibraryInfo::BinariesPath)});
-  if (lrelease.isEmpty() || !writeFile(source, ts) ||
+  const QString lrelease = qtTool("lrelease");
+  if (lrelease.isEmpty() || !writeFile(source, tsOf(messages)) ||
       !runTool(lrelease, {"-silent", source, "-qm", compiled})) {
     return {};
   }
@@ -75,7 +84,7 @@ QString compileQtCatalog(const std::vector<Message>& messages, const QString& fo
 
 bool compileGettextCatalog(const std::vector<Message>& messages, const QString& folder,
                            const QString& language, const QString& domain) {
-  std::string po = "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n\n";
+  std::string po = poHeader;
   for (const Message& message : messages) {
     po += "msgid " + quoted(message.source) + "\nmsgstr " + quoted(message.translation) + "\n\n";
   }
@@ -83,6 +92,31 @@ bool compileGettextCatalog(const std::vector<Message>& messages, const QString& 
   const QString source = folder + '/' + domain + ".po";
   return QDir().mkpath(place) && writeFile(source, po) &&
          runTool("msgfmt", {"-o", place + domain + ".mo", source});
+}
+
+bool writeMergeCatalogs(const std::vector<Message>& own, const std::vector<Message>& other,
+                        const QString& folder) {
+  const auto poOf = [](const std::vector<Message>& messages) {
+    std::string po = poHeader;
+    for (const Message& message : messages) {
+      po += "msgctxt " + quoted(message.context) + "\nmsgid " + quoted(message.source) + "\nmsgstr " +
+            quoted(message.translation) + "\n\n";
+    }
+    return po;
+  };
+  return writeFile(folder + "/own.po", poOf(own)) && writeFile(folder + "/other.po", poOf(other)) &&
+         writeFile(folder + "/own.ts", tsOf(own)) && writeFile(folder + "/other.ts", tsOf(other));
+}
+
+bool runMsgmerge(const QString& folder) {
+  // It would otherwise look for similar texts, which nobody else does here.
+  return runTool("msgmerge", {"--quiet", "--no-fuzzy-matching", "--compendium", folder + "/other.po", "-o",
+                              folder + "/merged.po", folder + "/own.po", folder + "/own.po"});
+}
+
+bool runLconvert(const QString& folder) {
+  return runTool(qtTool("lconvert"),
+                 {"-i", folder + "/other.ts", "-i", folder + "/own.ts", "-o", folder + "/merged.ts"});
 }
 
 }  // namespace bench

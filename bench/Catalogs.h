@@ -24,4 +24,12 @@ QString compileQtCatalog(const std::vector<Message>& messages, const QString& fo
 bool compileGettextCatalog(const std::vector<Message>& messages, const QString& folder,
                            const QString& language, const QString& domain);
 
+/// Writes both versions of one language as sources of catalogs for the two merge commands below, the context
+/// of each text as its context there.
+bool writeMergeCatalogs(const std::vector<Message>& own, const std::vector<Message>& other,
+                        const QString& folder);
+/// Fill the first version's gaps from the second, into a third file; whether that went well.
+bool runMsgmerge(const QString& folder);
+bool runLconvert(const QString& folder);
+
 }  // namespace bench

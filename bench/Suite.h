@@ -42,5 +42,6 @@ void addApplying(Suite& suite);
 void addHarvesting(Suite& suite);
 void addControlPaths(Suite& suite);
 void addLookup(Suite& suite);
+void addMerging(Suite& suite);
 
 }  // namespace bench

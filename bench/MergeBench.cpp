@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include "MergeModels.h"
+#include "PathTable.h"
+#include "Suite.h"
+
+#include <QTemporaryDir>
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+namespace {
+
+using Version = MergeModels::Version;
+
+/// A model that is new in each pass, made and released untimed.
+class FreshModel {
+ public:
+  FreshModel(const MergeModels& models, Version version) : models_(models), version_(version) {}
+
+  void renew() {
+    model_.reset();
+    model_ = models_.model(version_);
+  }
+  void release() { model_.reset(); }
+  kob::KOBModeleTraduction& operator*() const { return *model_; }
+  kob::KOBModeleTraduction* operator->() const { return model_.get(); }
+
+ private:
+  const MergeModels& models_;
+  Version version_;
+  std::unique_ptr<kob::KOBModeleTraduction> model_;
+};
+
+/// The floor of merging: two arrays, and a table of the other one's paths that is ready.
+class Join {
+ public:
+  explicit Join(const MergeModels& models)
+      : own_(models, Version::Own), other_(models, Version::Other), table_(other_.records().size()) {
+    for (const MergeRecords::Record& record : other_.records()) {
+      table_.add(record.path, &record);
+    }
+  }
+
+  void restore() { own_.restore(); }
+  void run() {
+    for (MergeRecords::Record& record : own_.records()) {
+      const auto* const other = static_cast<const MergeRecords::Record*>(table_.find(record.path));
+      if (other == nullptr) {
+        throw std::runtime_error("a path is not found");
+      }
+      for (std::size_t i = 1; i < record.texts.size(); ++i) {
+        if (record.texts[i].empty() && !other->texts[i].empty()) {
+          record.texts[i] = other->texts[i];
+        }
+      }
+    }
+  }
+  const MergeRecords& own() const noexcept { return own_; }
+
+ private:
+  MergeRecords own_;
+  MergeRecords other_;
+  PathTable table_;
+};
+
+/// The floor of completing: every reference text is hashed once.
+void hashAll(const std::vector<kob::Text>& references) {
+  std::uint32_t sum = 0;
+  for (const kob::Text& text : references) {
+    sum += kob::hashUpper(text);
+  }
+  benchmark::DoNotOptimize(sum);
+}
+
+std::vector<kob::Text> referencesOf(const MergeModels& models) {
+  std::vector<kob::Text> references;
+  references.reserve(static_cast<std::size_t>(models.entries()));
+  for (int i = 0; i < models.entries(); ++i) {
+    references.push_back(utf16(models.text(Version::Own, i, 1)));
+  }
+  return references;
+}
+
+void contestPaths(int entries, double must, const std::function<void(Contest&)>& run) {
+  const MergeModels models(entries);
+  FreshModel own(models, Version::Own);
+  FreshModel other(models, Version::Other);
+  Join join(models);
+  Contest contest("Merge by path, 5 languages", std::to_string(entries));
+  contest.add(
+      "merge by path", entries, [&](int) { own->Racine()->UpdateCellWithModele(*other, -1); },
+      [&](int) {
+        own.renew();
+        other.renew();
+      });
+  contest.add(
+      "join, table ready", entries, [&](int) { join.run(); }, [&](int) { join.restore(); });
+  contest.expect({"merge by path", "join, table ready", must, 2.0});
+  run(contest);
+}
+
+void contestCompleting(int entries, const std::function<void(Contest&)>& run) {
+  const MergeModels models(entries);
+  FreshModel own(models, Version::Own);
+  const std::vector<kob::Text> references = referencesOf(models);
+  Contest contest("Complete identical texts", std::to_string(entries));
+  contest.add(
+      "CompleteIdentiques", entries, [&](int) { own->CompleteIdentiques(); }, [&](int) { own.renew(); });
+  contest.add("hash each text once", entries, [&](int) { hashAll(references); });
+  contest.expect({"CompleteIdentiques", "hash each text once", 5.0, 4.0});
+  run(contest);
+}
+
+/// The merge commands of other systems, on catalogs with the same texts.
+class Peers {
+ public:
+  explicit Peers(const MergeModels& models) {
+    constexpr int language = 2;
+    isMade_ = writeMergeCatalogs(models.messages(Version::Own, language),
+                                 models.messages(Version::Other, language), folder_.path());
+    if (!isMade_) {
+      throw std::runtime_error("the catalogs cannot be written");
+    }
+  }
+  void gettext() const { check(runMsgmerge(folder_.path()), "msgmerge"); }
+  void qt() const { check(runLconvert(folder_.path()), "lconvert"); }
+
+ private:
+  static void check(bool done, const char* tool) {
+    if (!done) {
+      throw std::runtime_error(std::string(tool) + " does not run; is it installed?");
+    }
+  }
+
+  QTemporaryDir folder_;
+  bool isMade_ = false;
+};
+
+void contestWhole(int entries, bool withPeers, const std::function<void(Contest&)>& run) {
+  const MergeModels models(entries);
+  FreshModel own(models, Version::Own);
+  FreshModel other(models, Version::Other);
+  Join join(models);
+  const std::vector<kob::Text> references = referencesOf(models);
+  const auto peers = withPeers ? std::make_unique<Peers>(models) : nullptr;
+  Contest contest("Merge, whole, 5 languages", std::to_string(entries));
+  contest.add(
+      "UpdateWithTraductionModele", entries, [&](int) { own->UpdateWithTraductionModele(*other); },
+      [&](int) {
+        own.renew();
+        other.renew();
+      });
+  contest.add(
+      "join, then hash", entries,
+      [&](int) {
+        join.run();
+        hashAll(references);
+      },
+      [&](int) { join.restore(); });
+  if (peers != nullptr) {
+    contest.add("msgmerge, 1 language", entries, [&](int) { peers->gettext(); });
+    contest.add("lconvert, 1 language", entries, [&](int) { peers->qt(); });
+  }
+  contest.expect({"UpdateWithTraductionModele", "join, then hash", 3.0, 2.0});
+  run(contest);
+}
+
+void contestSearch(int entries, const std::function<void(Contest&)>& run) {
+  const MergeModels models(entries);
+  const auto model = models.model(Version::Own);
+  const std::vector<kob::Text> references = referencesOf(models);
+  const kob::Text sought = u"order";
+  std::int32_t found = 0;
+  Contest contest("Search a text", std::to_string(entries));
+  contest.add("SearchString", entries, [&](int) {
+    kob::CellResults results;
+    model->SearchString(sought, &results);
+    found = results.Count();
+  });
+  contest.add("loop over an array", entries, [&](int) {
+    const kob::Text uppered = kob::upper(sought);
+    std::vector<const kob::Text*> hits;
+    for (const kob::Text& text : references) {
+      if (kob::upper(text).find(uppered) != kob::Text::npos) {
+        hits.push_back(&text);
+      }
+    }
+    if (static_cast<std::int32_t>(hits.size()) != found) {
+      throw std::runtime_error("the searches find different numbers of texts");
+    }
+  });
+  contest.expect({"SearchString", "loop over an array", 3.0});
+  run(contest);
+}
+
+}  // namespace
+
+void addMerging(Suite& suite) {
+  for (const int entries : {10000, 100000, 1000000}) {
+    if (suite.settings().quick && entries > 100000) {
+      continue;
+    }
+    const std::string size = std::to_string(entries);
+    suite.add("Merge/path/" + size, [entries](const auto& run) { contestPaths(entries, 3.0, run); });
+    suite.add("Merge/complete/" + size, [entries](const auto& run) { contestCompleting(entries, run); });
+    suite.add("Merge/whole/" + size,
+              [entries](const auto& run) { contestWhole(entries, entries <= 100000, run); });
+    suite.add("Search/" + size, [entries](const auto& run) { contestSearch(entries, run); });
+  }
+}
+
+}  // namespace bench
