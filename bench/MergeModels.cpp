@@ -27,8 +27,7 @@ bool isMissing(MergeModels::Version version, int entry, int language) {
   }
   const bool isOwn = version == MergeModels::Version::Own;
   const auto seed = static_cast<std::uint32_t>(entry) * 16 + static_cast<std::uint32_t>(language) * 2;
-  // Of the own texts every second one, of the others every fourth.
-  return scrambled(seed + (isOwn ? 0 : 1)) % (isOwn ? 2 : 4) == 0;
+  return scrambled(seed + (isOwn ? 0 : 1)) % 4 == 0;
 }
 
 std::string formName(int entry) {

@@ -13,7 +13,8 @@
 namespace bench {
 
 /// One made-up model of controls, a hundred in a form, ten in a frame, with one entry each: about two entries
-/// have the same reference text, and of the other languages some texts are missing, others in each version.
+/// have the same reference text, and of the other languages every fourth text is missing, others in each
+/// version.
 class MergeModels {
  public:
   static constexpr int languages = 6;

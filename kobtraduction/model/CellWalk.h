@@ -2,6 +2,7 @@
 #pragma once
 
 #include <kobtraduction/base/Failure.h>
+#include <kobtraduction/base/Fetch.h>
 #include <kobtraduction/model/KOBCellTraduction.h>
 
 #include <cstddef>
@@ -46,6 +47,8 @@ class CellWalk {
     KOBCellTraduction* cell;
     std::shared_ptr<CellList> children;
     CellList::const_iterator next;
+    /// How many children are fetched and not walked yet.
+    int fetched = 0;
   };
 
   void enter(KOBCellTraduction& cell) {
@@ -55,7 +58,7 @@ class CellWalk {
     if (cell.ColCell() == nullptr) {
       throw Failure(FailureKind::ObjectNotSet);
     }
-    open_.push_back({&cell, cell.ColCell(), cell.ColCell()->begin()});
+    open_.push_back({&cell, cell.ColCell(), cell.ColCell()->begin(), 0});
     cell.isWalked_ = true;
   }
 
@@ -66,12 +69,43 @@ class CellWalk {
     if (open_.empty()) {
       return nullptr;
     }
+    if (open_.back().fetched == 0) {
+      fetchChildren(open_.back());
+    }
+    --open_.back().fetched;
     KOBCellTraduction* const cell = (*open_.back().next).get();
     ++open_.back().next;
     if (cell == nullptr) {
       throw Failure(FailureKind::ObjectNotSet);
     }
     return cell;
+  }
+
+  /// What a walk reads of a child it finds only through what it has read before. So the next children are
+  /// fetched together, one step of the way for all of them after the other, and the waiting is shared.
+  static void fetchChildren(Level& level) {
+    constexpr int together = 16;
+    KOBCellTraduction* cells[together];
+    int count = 0;
+    for (auto next = level.next; count < together && next != level.children->end(); ++next) {
+      cells[count] = (*next).get();
+      fetch(cells[count++]);
+    }
+    level.fetched = count;
+    const EntryList* lists[together];
+    for (int i = 0; i < count; ++i) {
+      lists[i] = cells[i] != nullptr ? cells[i]->entries() : nullptr;
+      if (lists[i] != nullptr && lists[i]->Count() > 0) {
+        fetch(&*lists[i]->begin());
+      } else {
+        lists[i] = nullptr;
+      }
+    }
+    for (int i = 0; i < count; ++i) {
+      if (lists[i] != nullptr) {
+        fetch(lists[i]->begin()->get());
+      }
+    }
   }
 
   void leave() noexcept {

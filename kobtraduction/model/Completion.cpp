@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobtraduction/base/Fetch.h>
 #include <kobtraduction/component/Global_Util.h>
 #include <kobtraduction/model/CellWalk.h>
 #include <kobtraduction/model/Entries.h>
 #include <kobtraduction/model/KOBModeleTraduction.h>
 #include <kobtraduction/model/SameTexts.h>
+
+#include <vector>
 
 namespace kob {
 
@@ -23,23 +26,20 @@ bool lacksTexts(const TextList& texts) {
   return false;
 }
 
-/// Fills the target's gaps from an entry with the same reference text; whether gaps remain.
-bool fillGaps(KOBTraductionObj& target, const KOBTraductionObj& source) {
-  bool remain = false;
-  const TextList& own = textsOf(target);
-  const TextList& others = textsOf(source);
-  for (std::int32_t i = 2, last = Global_Util::NbLangues(); i <= last; ++i) {
-    if (!own.Item(i).empty()) {
-      continue;
-    }
-    const TextView text = others.Item(i);
-    if (text.empty()) {
-      remain = true;
-    } else {
-      target.ChangeTraduction(text, i);
-    }
+/// Fetches what the turns after the next ones will read.
+void fetchLater(const SameTexts& entries, const std::vector<std::uint32_t>& lacking, std::size_t turn) {
+  constexpr std::size_t entriesAhead = 16;
+  constexpr std::size_t textsAhead = 8;
+  if (turn + entriesAhead < lacking.size()) {
+    const std::uint32_t number = lacking[turn + entriesAhead];
+    fetch(&entries.entry(number));
+    fetch(&entries.likelyFirstOf(number));
   }
-  return remain;
+  if (turn + textsAhead < lacking.size()) {
+    const std::uint32_t number = lacking[turn + textsAhead];
+    fetch(textsOf(entries.entry(number)).Item(1).data());
+    fetch(textsOf(entries.likelyFirstOf(number)).Item(1).data());
+  }
 }
 
 }  // namespace
@@ -52,15 +52,15 @@ bool fillGaps(KOBTraductionObj& target, const KOBTraductionObj& source) {
 // the turn of the very first entry of the walk.
 void KOBModeleTraduction::CompleteIdentiques() {
   SameTexts entries;
-  bool isAnyLacking = false;
+  std::vector<std::uint32_t> lacking;
   try {
     CellWalk::each(*racine_, [&](const KOBCellTraduction& cell) {
       eachEntry(cell, [&](KOBTraductionObj& entry) {
         const TextList& texts = textsOf(entry);
-        const TextView reference = texts.Item(1);
-        const bool isLacking = lacksTexts(texts);
-        isAnyLacking = isAnyLacking || isLacking;
-        entries.add(entry, reference, isLacking);
+        entries.add(entry, texts.Item(1));
+        if (lacksTexts(texts)) {
+          lacking.push_back(static_cast<std::uint32_t>(entries.count() - 1));
+        }
       });
     });
   } catch (const Failure&) {
@@ -69,20 +69,20 @@ void KOBModeleTraduction::CompleteIdentiques() {
     }
     throw;
   }
-  if (!isAnyLacking) {
+  if (lacking.empty()) {
     return;
   }
   entries.group();
-  for (std::size_t i = 0; i < entries.count(); ++i) {
-    if (!entries.isWanted(i)) {
-      continue;
-    }
-    KOBTraductionObj& target = entries.entry(i);
-    const std::size_t first = entries.firstOf(i);
-    if (i != first) {
-      fillGaps(target, entries.entry(first));
+  const std::int32_t last = Global_Util::NbLangues();
+  for (std::size_t i = 0; i < lacking.size(); ++i) {
+    fetchLater(entries, lacking, i);
+    TextList& target = textsOf(entries.entry(lacking[i]));
+    const std::size_t first = entries.firstOf(lacking[i]);
+    if (first != lacking[i]) {
+      target.FillGaps(textsOf(entries.entry(first)), 2, last);
     } else {
-      entries.eachOf(first, [&target](const KOBTraductionObj& source) { return fillGaps(target, source); });
+      entries.eachOf(
+          first, [&](const KOBTraductionObj& source) { return target.FillGaps(textsOf(source), 2, last); });
     }
   }
 }

@@ -4,11 +4,9 @@
 #include <kobtraduction/base/Failure.h>
 #include <kobtraduction/model/KOBCellTraduction.h>
 
-#include <memory>
-
 namespace kob {
 
-/// What a reference refers to, or ObjectNotSet.
+/// What a reference refers to, or ObjectNotSet. Internal.
 template <class Reference>
 auto& required(const Reference& reference) {
   if (reference == nullptr) {
@@ -19,7 +17,7 @@ auto& required(const Reference& reference) {
 
 /// An entry's list of texts, or ObjectNotSet; lives until another list is assigned. Internal.
 inline TextList& textsOf(const KOBTraductionObj& entry) {
-  return required(entry.ColTraduction());
+  return entry.texts();
 }
 
 /// Calls test(entry) for the entries that a cell holds by its kind, in order, until one is true; whether one
@@ -27,10 +25,10 @@ inline TextList& textsOf(const KOBTraductionObj& entry) {
 template <class Test>
 bool anyEntry(const KOBCellTraduction& cell, Test&& test) {
   if (cell.TypeFeuille() == 1) {
-    return test(required(cell.Traduction()));
+    return test(required(cell.message()));
   }
   if (cell.TypeFeuille() == 2) {
-    for (const auto& entry : required(cell.ColTraduction())) {
+    for (const auto& entry : required(cell.entries())) {
       if (test(required(entry))) {
         return true;
       }

@@ -41,24 +41,24 @@ bool holds(KOBCellTraduction& top, const KOBCellTraduction& sought) {
   return false;
 }
 
-/// Copies one text into a gap. What is there already is never overwritten.
-void fillLanguage(KOBTraductionObj& target, const KOBTraductionObj& source, std::int32_t langue) {
+/// Copies texts into gaps. What is there already is never overwritten.
+void fill(KOBTraductionObj& target, const KOBTraductionObj& source, std::int32_t langue) {
+  if (langue == -1) {
+    // The source is only read from the first gap on.
+    for (std::int32_t i = 2, last = Global_Util::NbLangues(); i <= last; ++i) {
+      if (textsOf(target).Item(i).empty()) {
+        textsOf(target).FillGaps(textsOf(source), i, last);
+        return;
+      }
+    }
+    return;
+  }
   if (!textsOf(target).Item(langue).empty()) {
     return;
   }
   const TextView text = textsOf(source).Item(langue);
   if (!text.empty()) {
     target.ChangeTraduction(text, langue);
-  }
-}
-
-void fill(KOBTraductionObj& target, const KOBTraductionObj& source, std::int32_t langue) {
-  if (langue != -1) {
-    fillLanguage(target, source, langue);
-    return;
-  }
-  for (std::int32_t i = 2, last = Global_Util::NbLangues(); i <= last; ++i) {
-    fillLanguage(target, source, i);
   }
 }
 
@@ -69,15 +69,15 @@ void fillLeaf(const KOBCellTraduction& target, const KOBCellTraduction& source, 
     return;
   }
   if (target.TypeFeuille() == 1) {
-    KOBTraductionObj& own = required(target.Traduction());
-    const KOBTraductionObj& other = required(source.Traduction());
+    KOBTraductionObj& own = required(target.message());
+    const KOBTraductionObj& other = required(source.message());
     if (own.nom() == other.nom()) {
       fill(own, other, langue);
     }
     return;
   }
-  for (const auto& other : required(source.ColTraduction())) {
-    for (const auto& own : required(target.ColTraduction())) {
+  for (const auto& other : required(source.entries())) {
+    for (const auto& own : required(target.entries())) {
       if (required(own).nom() == required(other).nom()) {
         fill(*own, *other, langue);
       }

@@ -17,31 +17,36 @@ constexpr std::size_t digits = std::size_t{1} << digitBits;
 
 }  // namespace
 
-void SameTexts::add(KOBTraductionObj& entry, TextView reference, bool isWanted) {
+void SameTexts::add(KOBTraductionObj& entry, TextView reference) {
   members_.push_back({hashUpper(reference), static_cast<std::uint32_t>(entries_.size())});
   entries_.push_back(&entry);
-  isWanted_.push_back(isWanted);
 }
 
 void SameTexts::group() {
   sortByHash();
   start_.resize(members_.size());
-  for (auto first = members_.begin(); first != members_.end();) {
-    bool isAnyWanted = false;
-    auto last = first;
-    for (; last != members_.end() && last->hash == first->hash; ++last) {
-      start_[last->number] = static_cast<std::uint32_t>(first - members_.begin());
-      isAnyWanted = isAnyWanted || isWanted_[last->number];
+  std::size_t start = 0;
+  for (std::size_t i = 0; i < members_.size(); ++i) {
+    if (members_[i].hash != members_[start].hash) {
+      start = i;
     }
-    if (isAnyWanted && last - first > 1) {
-      makeGroups(first, last);
-    }
-    first = last;
+    start_[members_[i].number] = static_cast<std::uint32_t>(start);
   }
 }
 
-TextView SameTexts::reference(const Member& member) const {
-  return textsOf(*entries_[member.number]).Item(1);
+std::size_t SameTexts::firstOf(std::size_t number) {
+  if (!isSame(number, members_[start_[number]].number)) {
+    splitRun(start_[number]);
+  }
+  return members_[start_[number]].number;
+}
+
+TextView SameTexts::reference(std::size_t number) const {
+  return textsOf(*entries_[number]).Item(1);
+}
+
+bool SameTexts::isSame(std::size_t a, std::size_t b) const {
+  return a == b || equalUpper(reference(a), reference(b));
 }
 
 void SameTexts::sortByHash() {
@@ -63,21 +68,20 @@ void SameTexts::sortByHash() {
   }
 }
 
-void SameTexts::makeGroups(Place first, Place last) {
-  const TextView text = reference(*first);
-  const auto isSame = [&](const Member& member) { return equalUpper(reference(member), text); };
-  if (std::all_of(first + 1, last, isSame)) {
-    return;
+void SameTexts::splitRun(std::size_t start) {
+  std::size_t end = start;
+  while (end < members_.size() && start_[members_[end].number] == start) {
+    ++end;
   }
-  // Different texts of one hash.
-  std::stable_sort(first, last, [this](const Member& a, const Member& b) {
-    return lessUpper(reference(a), reference(b));
+  const auto place = [this](std::size_t i) { return members_.begin() + static_cast<std::ptrdiff_t>(i); };
+  std::stable_sort(place(start), place(end), [this](const Member& a, const Member& b) {
+    return lessUpper(reference(a.number), reference(b.number));
   });
-  for (auto groupStart = first, member = first; member != last; ++member) {
-    if (!equalUpper(reference(*member), reference(*groupStart))) {
-      groupStart = member;
+  for (std::size_t i = start; i < end; ++i) {
+    if (!isSame(members_[i].number, members_[start].number)) {
+      start = i;
     }
-    start_[member->number] = static_cast<std::uint32_t>(groupStart - members_.begin());
+    start_[members_[i].number] = static_cast<std::uint32_t>(start);
   }
 }
 

@@ -12,7 +12,7 @@ namespace {
 template <class Test>
 void collect(KOBCellTraduction& top, CellResults& results, Test test) {
   CellWalk::each(top, [&](KOBCellTraduction& cell) {
-    if (anyEntry(cell, [&](const KOBTraductionObj& entry) { return test(textsOf(entry)); })) {
+    if (anyEntry(cell, [&](const KOBTraductionObj& entry) { return test(entry.texts()); })) {
       results.Add(cell.shared_from_this());
     }
   });

@@ -41,6 +41,10 @@ class KOB_EXPORT TextList {
   void Remove(std::int32_t position);
   /// Puts a text in the place of another one.
   void Replace(std::int32_t position, TextView text);
+  /// Puts the texts of `source` in the place of this list's own that are "", from position `first` to `last`;
+  /// whether some of these remain. Fails with InvalidIndex at the first position that this list lacks, or
+  /// that `source` lacks and this list wants, and has filled those before it.
+  bool FillGaps(const TextList& source, std::int32_t first, std::int32_t last);
   /// Appends so many "".
   void AddEmpty(std::int32_t count);
 
@@ -74,6 +78,9 @@ class KOB_EXPORT TextList {
   void insertEnd(std::uint32_t item, std::uint32_t end) noexcept;
   /// Puts `text` in the place of the units first..last of the run; the ends are the caller's.
   void splice(std::uint32_t first, std::uint32_t last, TextView text);
+  /// A run of its own, longer by so many units, with the texts of `source` in the gaps of these items.
+  void makeFilledRun(const TextList& source, std::uint32_t firstItem, std::uint32_t endItem,
+                     std::size_t growth);
   void moveEnds(std::uint32_t firstItem, std::uint32_t by) noexcept;
 
   /// Null as long as all texts are ""; no text has an end then.
