@@ -155,6 +155,22 @@ TEST_F(FailingReads, AControlKeepsWhatItHadRead) {
       cellState);
 }
 
+TEST_F(FailingReads, AControlWithUntouchedFactorsKeepsWhatItHadRead) {
+  const std::string fresh = " entries [] width [1 1] left [1 1]";
+  failEverywhere<KOBCellTraduction>(
+      {KOBCellTraduction::createControl,
+       2,
+       {aText(u"c"), aText(u""), aLong(2), aLong(2), aLong(1), aLong(1), aLong(0), aSmallInteger(1),
+        aSmallInteger(1), aSmallInteger(1), aDouble(2), aBoolean(false)},
+       {"/ 22 at 0,0" + fresh, "c/ 22 at 0,0" + fresh, "c/ 22 at 0,0" + fresh, "c/ 22 at 0,0" + fresh,
+        "c/ 22 at 0,0" + fresh, "c/ 22 at 1,0" + fresh, "c/ 22 at 1,1" + fresh,
+        "c/ 22 at 1,1 entries [] width [] left []", "c/ 22 at 1,1 entries [] width [1] left []",
+        "c/ 22 at 1,1 entries [] width [1] left [1]", "c/ 22 at 1,1 entries [] width [1 1] left [1]",
+        "c/ 22 at 1,1 entries [] width [1 1] left [1 2d]",
+        "c/ 22 at 1,1 entries [] width [1 1] left [1 2d]"}},
+      cellState);
+}
+
 TEST_F(FailingReads, AFailingVersionReadsNothing) {
   const auto read = [](IKOBVBPersistStream& object, const Values& values) {
     ScriptedStream stream({2, values});

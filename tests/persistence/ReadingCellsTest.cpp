@@ -239,6 +239,13 @@ TEST_F(ReadingCells, ANegativeLanguageCountReadsNoFactors) {
   EXPECT_EQ(stateOf(*cell), "a/ 22 at 1,1 entries [] width [] left [] context");
 }
 
+TEST_F(ReadingCells, AHugeLanguageCountFailsWhereTheRecordEndsAndTakesNoMemory) {
+  const CellRef cell = KOBCellTraduction::create();
+  Global_Util::setNbLangues(std::numeric_limits<std::int32_t>::max());
+  EXPECT_FALSE(reads(*cell, 2, controlStart(aLong(-1), aLong(1))));
+  EXPECT_EQ(stateOf(*cell), "a/ 22 at -1,1 entries [] width [1.5d 1 1d] left [0.5d 1 1]");
+}
+
 TEST_F(ReadingCells, AControlThatIsReadAsAMessageKeepsItsIndicators) {
   const CellRef cell = KOBCellTraduction::createControl();
   cell->setm_left(4);
