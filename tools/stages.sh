@@ -91,8 +91,8 @@ stage_consumer() {
 
 stage_demo() {
   build_preset release kobdemo
-  rm -rf build/pictures
-  on_virtual_screen build/release/bin/kobdemo --pictures build/pictures
+  rm -rf build/pictures "$results/demo.trad"
+  on_virtual_screen build/release/bin/kobdemo --pictures build/pictures --model "$results/demo.trad"
   local pictures
   pictures=$(find build/pictures -name '*.png' | wc -l)
   [ "$pictures" -gt 0 ] || { echo "FAILED: no picture was taken"; return 1; }

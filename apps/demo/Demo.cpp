@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "Demo.h"
 
+#include "Languages.h"
 #include "LoansPage.h"
 #include "MembersPage.h"
 #include "Messages.h"
@@ -42,6 +43,17 @@ Demo::Demo()
   connectWindow();
 }
 
+bool Demo::load(const QString& file) {
+  if (!model_.Load(qt::toText(file))) {
+    return false;
+  }
+  // The file may be older than the demo: fewer languages, fewer messages.
+  model_.setNbLangues(static_cast<std::int32_t>(languages.size()));
+  Messages::record(model_);
+  showMessages();
+  return true;
+}
+
 Filled Demo::harvest() {
   for (QWidget* const form : std::initializer_list<QWidget*>{&window_, &loanDialog_, &memberDialog_}) {
     model_.UpdateWithForm(qt::hostForm(form));
@@ -53,8 +65,8 @@ Filled Demo::harvest() {
   return countTexts(model_);
 }
 
-Filled Demo::fillFrom(TextTable table) {
-  Filled filled = fill(model_, table);
+Filled Demo::fillFrom(TextTable table, Fill what) {
+  Filled filled = fill(model_, table, what);
   for (QWidget* const form : std::initializer_list<QWidget*>{&window_, &loanDialog_, &memberDialog_}) {
     switcher_.addForm(form);
   }

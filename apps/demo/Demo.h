@@ -8,6 +8,7 @@
 #include "SampleData.h"
 
 #include <kobtraduction/model/KOBModeleTraduction.h>
+#include <kobtraductionqt/KOBTraductionQt.h>
 #include <kobtraductionqt/LanguageSwitcher.h>
 
 #include <QObject>
@@ -29,10 +30,14 @@ class Demo final : public QObject {
 
   Demo();
 
+  /// Takes the texts of a translation file, before anything is recorded; false when it cannot be read.
+  bool load(const QString& file);
   /// Records the texts of every form as they are now. Once, in French.
   Filled harvest();
   /// Fills in the other languages; from then on the forms can be switched.
-  Filled fillFrom(TextTable table);
+  Filled fillFrom(TextTable table, Fill what = Fill::All);
+  /// False when the file cannot be written.
+  bool save(const QString& file) { return model_.Save(qt::toText(file)); }
 
   KOBModeleTraduction& model() { return model_; }
   qt::LanguageSwitcher& switcher() { return switcher_; }

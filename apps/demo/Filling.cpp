@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "Filling.h"
 
+#include "Languages.h"
+
 #include <kobtraductionqt/KOBTraductionQt.h>
 
 #include <functional>
@@ -46,7 +48,22 @@ int visitEntries(const KOBModeleTraduction& model, const Visit& visit) {
   return cells;
 }
 
-void fillFactors(KOBModeleTraduction& model, const TextTable& table, Filled& filled) {
+bool isComplete(const KOBTraductionObj& entry) {
+  const auto& texts = *entry.ColTraduction();
+  for (std::size_t language = 1; language <= languages.size(); ++language) {
+    if (texts.Item(static_cast<std::int32_t>(language)).empty()) {
+      return false;
+    }
+  }
+  return true;
+}
+
+/// A factor that was never assigned is the small integer that its list was made with.
+bool isAssigned(const KOBCellTraduction& cell, bool isWidth, std::int32_t language) {
+  return (isWidth ? cell.ColWidth() : cell.ColLeft())->Item(language).isDouble();
+}
+
+void fillFactors(KOBModeleTraduction& model, const TextTable& table, Fill what, Filled& filled) {
   for (const TextTable::Factor& factor : table.factors()) {
     const std::shared_ptr<KOBCellTraduction> cell = model.GetCell(qt::toText(factor.path));
     if (cell == nullptr || cell->TypeFeuille() != 2) {
@@ -55,6 +72,9 @@ void fillFactors(KOBModeleTraduction& model, const TextTable& table, Filled& fil
     }
     for (std::size_t i = 0; i < factor.values.size(); ++i) {
       const auto language = static_cast<std::int32_t>(i) + 2;
+      if (what == Fill::Gaps && isAssigned(*cell, factor.isWidth, language)) {
+        continue;
+      }
       if (factor.isWidth) {
         cell->ChangeWidth(factor.values[i], language);
       } else {
@@ -74,7 +94,7 @@ Filled countTexts(const KOBModeleTraduction& model) {
   return counted;
 }
 
-Filled fill(KOBModeleTraduction& model, TextTable& table) {
+Filled fill(KOBModeleTraduction& model, TextTable& table, Fill what) {
   Filled filled;
   filled.errors = table.errors();
   filled.cells = visitEntries(model, [&](const QString& path, KOBTraductionObj& entry) {
@@ -82,18 +102,24 @@ Filled fill(KOBModeleTraduction& model, TextTable& table) {
     const QString french = qt::toQString(entry.ColTraduction()->Item(1));
     const std::optional<TextTable::Texts> texts = table.find(path, french);
     if (!texts) {
+      if (what == Fill::Gaps && isComplete(entry)) {
+        return;
+      }
       filled.errors += u"the table lacks \"%1\" (%2, %3)"_s.arg(french, path, qt::toQString(entry.nom()));
       return;
     }
     for (std::size_t i = 0; i < texts->size(); ++i) {
-      entry.ChangeTraduction(qt::toText((*texts)[i]), static_cast<std::int32_t>(i) + 2);
-      ++filled.texts;
+      const auto language = static_cast<std::int32_t>(i) + 2;
+      if (what == Fill::All || entry.ColTraduction()->Item(language).empty()) {
+        entry.ChangeTraduction(qt::toText((*texts)[i]), language);
+        ++filled.texts;
+      }
     }
   });
   for (const QString& text : table.unused()) {
     filled.errors += u"the table has a text that no form shows: \"%1\""_s.arg(text);
   }
-  fillFactors(model, table, filled);
+  fillFactors(model, table, what, filled);
   return filled;
 }
 

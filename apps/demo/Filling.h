@@ -19,9 +19,12 @@ struct Filled {
   QStringList errors;
 };
 
-/// Fills every language of every text that the model holds. What the table lacks, and what in it fits
-/// nothing, is an error.
-Filled fill(KOBModeleTraduction& model, TextTable& table);
+/// Whether what the model holds in another language already stays, and only the rest is filled in.
+enum class Fill { All, Gaps };
+
+/// Fills every language of every text that the model holds. What is to be filled and the table lacks, and
+/// what in it fits nothing, is an error.
+Filled fill(KOBModeleTraduction& model, TextTable& table, Fill what = Fill::All);
 
 /// How many cells hold texts, and how many texts there are in language 1.
 Filled countTexts(const KOBModeleTraduction& model);

@@ -47,9 +47,10 @@ constexpr Message messages[] = {
 }  // namespace
 
 void Messages::record(KOBModeleTraduction& model) {
-  const std::shared_ptr<KOBCellTraduction> node = model.Racine()->AddNoeuds(u"Messages");
+  // A model that was read from a file has them already, but perhaps not all.
+  std::shared_ptr<KOBCellTraduction> node = model.GetCell(u"Messages");
   if (node == nullptr) {
-    return;
+    node = model.Racine()->AddNoeuds(u"Messages");
   }
   for (const Message& message : messages) {
     node->AddMessage(message.name, message.text);

@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 
 #include <cstdio>
 #include <string>
@@ -34,9 +35,9 @@ constexpr const char* about =
     "does\n"
     "not fit is told but is no failure.";
 constexpr const char* footer =
-    "Ends with 0 when all went well, 1 when a text is missing or does not fit or a picture cannot be "
-    "written,\n"
-    "2 when the arguments are not understood, 3 when a form cannot be loaded.\n\n"
+    "Ends with 0 when all went well, 1 when a text is missing or does not fit or a picture or the "
+    "translation file cannot be written,\n"
+    "2 when the arguments are not understood, 3 when a form or the translation file cannot be loaded.\n\n"
     "Examples:\n"
     "  kobdemo\n"
     "  kobdemo --pictures pictures\n"
@@ -87,20 +88,40 @@ int takePictures(Demo& demo, const QStringList& fillErrors, const PrintedBoxes& 
   return errors.isEmpty() && fillErrors.isEmpty() ? Done : Failed;
 }
 
-int runDemo(const QString& textFolder, const QString& pictureFolder) {
+/// What was asked for on the command line.
+struct Wishes {
+  QString textFolder;
+  QString modelFile;
+  QString pictureFolder;
+};
+
+int runDemo(const Wishes& wishes) {
   Demo demo;
   const PrintedBoxes boxes;
+  const bool hasFile = QFile::exists(wishes.modelFile);
+  if (hasFile && !demo.load(wishes.modelFile)) {
+    // It is not written over either: somebody may have put work into it.
+    printErrors(boxes.shown());
+    return NotLoaded;
+  }
   const Filled harvested = demo.harvest();
   print(u"Harvested: %1 texts of %2 controls and messages, in French"_s.arg(harvested.references)
             .arg(harvested.cells));
+  // Texts that somebody changed in the file stay, unless other tables are asked for.
+  const bool hasTables = !wishes.textFolder.isEmpty();
   const Filled filled =
-      demo.fillFrom(textFolder.isEmpty() ? TextTable::builtIn() : TextTable::fromFolder(textFolder));
+      demo.fillFrom(hasTables ? TextTable::fromFolder(wishes.textFolder) : TextTable::builtIn(),
+                    hasFile && !hasTables ? Fill::Gaps : Fill::All);
   print(u"Filled:    %1 texts in %2 languages, %3 left and width factors"_s.arg(filled.texts)
             .arg(languages.size() - 1)
             .arg(filled.factors));
   printErrors(filled.errors);
-  if (!pictureFolder.isEmpty()) {
-    return takePictures(demo, filled.errors, boxes, pictureFolder);
+  if (demo.save(wishes.modelFile)) {
+    print((hasFile ? u"Model:     read from %1 and written again"_s : u"Model:     written to %1"_s)
+              .arg(shownPath(wishes.modelFile)));
+  }
+  if (!wishes.pictureFolder.isEmpty()) {
+    return takePictures(demo, filled.errors, boxes, wishes.pictureFolder);
   }
   printErrors(boxes.shown());
   const kob::qt::QtMessageBoxes onScreen;
@@ -150,6 +171,7 @@ int main(int argc, char** argv) {
   std::vector<std::string> files;
   std::string pictures;
   std::string texts;
+  std::string model = "kobdemo.trad";
   arguments.add_option("files", files, "Forms of Qt Designer to show instead of the demo's own")
       ->type_name("FILE.ui");
   arguments
@@ -163,6 +185,12 @@ int main(int argc, char** argv) {
                   "Read the demo's translations from this folder instead of the built-in ones")
       ->type_name("FOLDER")
       ->check(CLI::ExistingDirectory);
+  arguments
+      .add_option(
+          "--model", model,
+          "Keep the demo's texts in this translation file: what is in it stays, and what it lacks is\n"
+          "recorded from the forms and filled in (otherwise kobdemo.trad in the current folder)")
+      ->type_name("FILE");
   try {
     arguments.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -181,7 +209,7 @@ int main(int argc, char** argv) {
   setLook();
   const QString folder = QString::fromStdString(pictures);
   if (files.empty()) {
-    return runDemo(QString::fromStdString(texts), folder);
+    return runDemo({QString::fromStdString(texts), QString::fromStdString(model), folder});
   }
   QStringList names;
   for (const std::string& file : files) {

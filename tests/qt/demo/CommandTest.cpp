@@ -111,6 +111,44 @@ TEST_F(Command, APictureThatCannotBeWrittenEndsWithAFailure) {
   EXPECT_TRUE(ended.errors.contains(u"the folder cannot be made"_s)) << ended.errors.toStdString();
 }
 
+TEST_F(Command, ItsTextsAreKeptInAFile) {
+  const Ended first = run({u"--pictures"_s, u"first"_s, u"--model"_s, u"demo.trad"_s});
+  EXPECT_EQ(first.status, 0) << first.errors.toStdString();
+  EXPECT_TRUE(first.out.contains(u"written to "_s + folder_.filePath(u"demo.trad"_s)))
+      << first.out.toStdString();
+  const Ended second = run({u"--pictures"_s, u"second"_s, u"--model"_s, u"demo.trad"_s});
+  EXPECT_EQ(second.status, 0) << second.errors.toStdString();
+  EXPECT_TRUE(second.out.contains(u"Filled:    0 texts in 5 languages, 0 left and width factors"_s))
+      << second.out.toStdString();
+  for (const QString& name : pictures(u"first"_s)) {
+    EXPECT_EQ(picture(u"first/"_s + name), picture(u"second/"_s + name)) << name.toStdString();
+  }
+}
+
+TEST_F(Command, TheFileIsInTheCurrentFolderUnlessItIsNamed) {
+  EXPECT_EQ(run({u"--pictures"_s, u"shots"_s}).status, 0);
+  EXPECT_TRUE(QFile::exists(folder_.filePath(u"kobdemo.trad"_s)));
+}
+
+TEST_F(Command, AFileThatCannotBeReadIsLeftAlone) {
+  const QString name = folder_.filePath(u"demo.trad"_s);
+  QFile file(name);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("Bonjour");
+  file.close();
+  const Ended ended = run({u"--pictures"_s, u"shots"_s, u"--model"_s, u"demo.trad"_s});
+  EXPECT_EQ(ended.status, 3);
+  EXPECT_TRUE(ended.errors.contains(u"Erreur de chargement du modèle"_s)) << ended.errors.toStdString();
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), QByteArray("Bonjour"));
+}
+
+TEST_F(Command, AFileThatCannotBeWrittenEndsWithAFailure) {
+  const Ended ended = run({u"--pictures"_s, u"shots"_s, u"--model"_s, u"nowhere/demo.trad"_s});
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_TRUE(ended.errors.contains(u"Erreur de sauvegarde du modèle"_s)) << ended.errors.toStdString();
+}
+
 TEST_F(Command, TakesAPictureOfADesignerForm) {
   const Ended ended = run({QStringLiteral(KOB_DEMO_FORMS "/reservation.ui"), u"--pictures"_s, u"shots"_s});
   EXPECT_EQ(ended.status, 0) << ended.errors.toStdString();

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <QFile>
+#include <QTemporaryDir>
 
 namespace kob::demo {
 
@@ -58,6 +59,46 @@ TEST_F(Filling, AFactorForWhatIsNotRecordedIsNamed) {
   table.readFactors("DlgPret\\lblInconnu width 1 1 2 1 1\n", u"more.txt"_s);
   EXPECT_EQ(fill(demo_.model(), table).errors,
             QStringList(u"the table has factors for a control that is not recorded: DlgPret\\lblInconnu"_s));
+}
+
+TEST_F(Filling, GapsAreFilledAndWhatWasThereStays) {
+  KOBModeleTraduction& model = demo_.model();
+  const std::shared_ptr<KOBCellTraduction> dialog = model.GetCell(u"DlgPret");
+  KOBTraductionObj& title = *dialog->ColTraduction()->Item(1);
+  const Text german(title.ColTraduction()->Item(German));
+  title.ChangeTraduction(u"Borrowing", English);
+  title.ChangeTraduction(u"", German);
+  dialog->ChangeWidth(3, German);
+  TextTable table = TextTable::builtIn();
+  const Filled filled = fill(model, table, Fill::Gaps);
+  EXPECT_EQ(filled.errors, QStringList());
+  EXPECT_EQ(filled.texts, 1);
+  EXPECT_EQ(title.ColTraduction()->Item(English), u"Borrowing");
+  EXPECT_EQ(title.ColTraduction()->Item(German), german);
+  EXPECT_EQ(dialog->ColWidth()->Item(German).value(), 3);
+}
+
+TEST_F(Filling, ATextThatIsCompleteNeedsNoTable) {
+  TextTable table = tableWithout("Caution versée");
+  EXPECT_EQ(fill(demo_.model(), table, Fill::Gaps).errors, QStringList());
+}
+
+TEST_F(Filling, AFileOfFewerLanguagesAndMessagesIsCompleted) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(u"old.trad"_s);
+  {
+    KOBModeleTraduction old;
+    Global_Util::setNbLangues(3);
+    old.Racine()->AddNoeuds(u"Messages")->AddMessage(u"ColNom", u"Nom");
+    ASSERT_TRUE(old.Save(qt::toText(file)));
+  }
+  Demo demo;
+  ASSERT_TRUE(demo.load(file));
+  const Filled harvested = demo.harvest();
+  EXPECT_EQ(harvested.references, harvested_.references);
+  EXPECT_EQ(demo.fillFrom(TextTable::builtIn(), Fill::Gaps).errors, QStringList());
+  EXPECT_EQ(demo.model().NbLangues(), 6);
+  EXPECT_TRUE(demo.save(file));
 }
 
 TEST_F(Filling, RecordingAgainChangesNothingAndAsksNothing) {
