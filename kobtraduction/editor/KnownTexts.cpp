@@ -29,6 +29,7 @@ KnownTexts::KnownTexts(const KOBModeleTraduction& model, const std::vector<Text>
     : byHash_(references.size()) {
   for (const Text& reference : references) {
     known_.push_back({reference, hashUpper(reference), emptyList(reference), nullptr});
+    sketched_.set(sketch(reference));
   }
   if (known_.empty()) {
     return;
@@ -50,8 +51,19 @@ KnownTexts::KnownTexts(const KOBModeleTraduction& model, const std::vector<Text>
   }
 }
 
+std::size_t KnownTexts::sketch(TextView reference) noexcept {
+  if (reference.empty()) {
+    return 0;
+  }
+  const std::size_t ends = std::size_t{upperUnit(reference.front())} * 31 + upperUnit(reference.back());
+  return (reference.size() * 7 + ends) % sketches;
+}
+
 void KnownTexts::complete(const KOBTraductionObj& entry) {
   const TextView reference = textsOf(entry).Item(1);
+  if (!sketched_[sketch(reference)]) {
+    return;
+  }
   const std::uint32_t hash = hashUpper(reference);
   const auto hashOf = [this](std::size_t number) { return known_[number].hash; };
   for (auto i = std::ranges::lower_bound(byHash_, hash, {}, hashOf); i != byHash_.end() && hashOf(*i) == hash;

@@ -4,6 +4,7 @@
 #include <kobtraduction/base/Export.h>
 #include <kobtraduction/model/KOBModeleTraduction.h>
 
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
@@ -32,10 +33,14 @@ class KOB_EXPORT KnownTexts {
   };
 
   void complete(const KOBTraductionObj& entry);
+  /// What nearly all texts that are not looked for differ in: their length and their ends.
+  static std::size_t sketch(TextView reference) noexcept;
 
   std::vector<Known> known_;
   /// The texts' numbers by their hashes.
   std::vector<std::size_t> byHash_;
+  static constexpr std::size_t sketches = 1024;
+  std::bitset<sketches> sketched_;
 };
 
 }  // namespace kob
