@@ -59,6 +59,14 @@ inline Byte* storeVarint(Byte* to, std::uint32_t number) noexcept {
   return to;
 }
 
+inline std::size_t varintSize(std::uint32_t number) noexcept {
+  std::size_t size = 1;
+  for (; number >= 0x80; number >>= 7) {
+    ++size;
+  }
+  return size;
+}
+
 /// A number that storeVarint wrote and that is known to be right; moves `from` behind it.
 inline std::uint32_t loadVarint(const Byte*& from) noexcept {
   std::uint32_t number = *from++;

@@ -18,11 +18,13 @@ std::uint64_t step(std::uint64_t lane, std::uint64_t word) noexcept {
 }  // namespace
 
 void Checksum::add(const Byte* bytes, std::size_t size) noexcept {
-  std::array<std::uint64_t, 4> lanes = lanes_;
-  const auto block = [&lanes](const Byte* from) {
-    for (std::size_t i = 0; i < lanes.size(); ++i) {
-      lanes[i] = step(lanes[i], loadNumber<std::uint64_t>(from + 8 * i));
-    }
+  // Names of their own keep the lanes in registers.
+  auto [first, second, third, fourth] = lanes_;
+  const auto block = [&](const Byte* from) {
+    first = step(first, loadNumber<std::uint64_t>(from));
+    second = step(second, loadNumber<std::uint64_t>(from + 8));
+    third = step(third, loadNumber<std::uint64_t>(from + 16));
+    fourth = step(fourth, loadNumber<std::uint64_t>(from + 24));
   };
   const std::size_t whole = size - size % blockSize;
   for (std::size_t i = 0; i < whole; i += blockSize) {
@@ -33,7 +35,7 @@ void Checksum::add(const Byte* bytes, std::size_t size) noexcept {
     std::memcpy(rest, bytes + whole, size - whole);
     block(rest);
   }
-  lanes_ = lanes;
+  lanes_ = {first, second, third, fourth};
 }
 
 std::uint64_t Checksum::finish(const Byte* header) noexcept {

@@ -86,6 +86,7 @@ class Loading final : private FilledObjects {
     const char16_t* texts = container_.texts().get();
     for (std::uint32_t i = container_.records(); i-- > 1;) {
       const Record record = container_.record(i);
+      container_.fetchBefore(i);
       PersistRef object = record.make();
       reader.open(i, record, texts);
       object->read(reader);

@@ -9,7 +9,7 @@
 
 namespace kob::persistence {
 
-bool takeVarint(const Byte*& from, const Byte* end, std::uint32_t& number) noexcept {
+bool takeLongVarint(const Byte*& from, const Byte* end, std::uint32_t& number) noexcept {
   number = 0;
   for (unsigned shift = 0; shift < 7 * longestVarint; shift += 7) {
     if (from == end) {

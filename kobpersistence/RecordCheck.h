@@ -9,8 +9,16 @@
 
 namespace kob::persistence {
 
+bool takeLongVarint(const Byte*& from, const Byte* end, std::uint32_t& number) noexcept;
+
 /// Reads a number that storeVarint writes, and no other form of it; moves `from` behind it.
-bool takeVarint(const Byte*& from, const Byte* end, std::uint32_t& number) noexcept;
+inline bool takeVarint(const Byte*& from, const Byte* end, std::uint32_t& number) noexcept {
+  if (from != end && *from < 0x80) {
+    number = *from++;
+    return true;
+  }
+  return takeLongVarint(from, end, number);
+}
 
 /// Looks at the values of all records, from the last to the first, and lays their texts out as UTF-16.
 /// What is wrong is thrown as a PersistFailure.

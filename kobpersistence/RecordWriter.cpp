@@ -13,6 +13,7 @@ namespace {
 
 /// Before the values: length, class and version, which are known when the values are.
 constexpr std::size_t mostHead = longestVarint + 1 + longestVarint;
+constexpr std::int32_t longestText = std::numeric_limits<std::int32_t>::max();
 /// The longest value that is not a text.
 constexpr std::size_t longestValue = 1 + sizeof(double);
 
@@ -26,13 +27,11 @@ Byte* storeTag(Byte* to, Tag tag) noexcept {
 RecordWriter::RecordWriter(NamedObjects& objects) : objects_(objects), capacity_(4096) {
   buffer_ = std::make_unique_for_overwrite<Byte[]>(capacity_);
   start_ = to_ = buffer_.get();
+  limit_ = buffer_.get() + capacity_ - slack;
 }
 
-void RecordWriter::reserve(std::size_t size) {
-  const std::size_t used = static_cast<std::size_t>(to_ - buffer_.get());
-  if (capacity_ - used >= size + slack) {
-    return;
-  }
+void RecordWriter::grow(std::size_t size) {
+  const auto used = static_cast<std::size_t>(to_ - buffer_.get());
   const std::size_t capacity = std::max(2 * capacity_, used + size + slack);
   auto larger = std::make_unique_for_overwrite<Byte[]>(capacity);
   std::copy(buffer_.get(), to_, larger.get());
@@ -40,6 +39,7 @@ void RecordWriter::reserve(std::size_t size) {
   buffer_ = std::move(larger);
   capacity_ = capacity;
   to_ = buffer_.get() + used;
+  limit_ = buffer_.get() + capacity_ - slack;
 }
 
 void RecordWriter::write(IKOBVBPersistStream& object, Byte classNumber) {
@@ -56,50 +56,41 @@ void RecordWriter::write(IKOBVBPersistStream& object, Byte classNumber) {
 }
 
 void RecordWriter::endRecord(Byte classNumber) {
-  Byte head[mostHead];
-  Byte* behind = head;
-  *behind++ = classNumber;
-  behind = storeVarint(behind, zigzag(version_));
-  const auto headSize = static_cast<std::size_t>(behind - head);
-  Byte* const values = buffer_.get() + mostHead;
-  const std::size_t size = headSize + static_cast<std::size_t>(to_ - values);
+  // Backwards from the values, each number to where it ends.
+  start_ = buffer_.get() + mostHead;
+  const auto prepend = [this](std::uint32_t number) {
+    start_ -= varintSize(number);
+    storeVarint(start_, number);
+  };
+  prepend(zigzag(version_));
+  *--start_ = classNumber;
+  const auto size = static_cast<std::size_t>(to_ - start_);
   if (size > std::numeric_limits<std::uint32_t>::max()) {
     throw failure({u"One object needs more than 4 GB. Shorten its texts."});
   }
-  Byte length[longestVarint];
-  const auto lengthSize =
-      static_cast<std::size_t>(storeVarint(length, static_cast<std::uint32_t>(size)) - length);
-  std::copy(head, behind, values - headSize);
-  start_ = values - headSize - lengthSize;
-  std::copy(length, length + lengthSize, start_);
+  prepend(static_cast<std::uint32_t>(size));
 }
 
 void RecordWriter::WriteValue(const PersistValue& value) {
-  try {
-    reserve(longestValue);
-    switch (value.type()) {
-      case PersistType::String:
-        writeText(value.text());
-        break;
-      case PersistType::SmallInteger:
-        writeSmallInteger(value.integer());
-        return;
-      case PersistType::Long:
-        to_ = storeVarint(storeTag(to_, Tag::Long), zigzag(value.integer()));
-        break;
-      case PersistType::Double:
-        to_ = storeTag(to_, Tag::Double);
-        storeNumber(to_, std::bit_cast<std::uint64_t>(value.number()));
-        to_ += sizeof(double);
-        break;
-      case PersistType::Boolean:
-        to_ = storeTag(to_, value.integer() != 0 ? Tag::True : Tag::False);
-        break;
-      case PersistType::Object:
-        writeObject(value.object());
-        break;
+  // The two kinds of value that a record is full of.
+  if (value.type() == PersistType::String) {
+    const TextView text = value.text();
+    if (static_cast<std::size_t>(limit_ - to_) / 2 > text.size() + longestVarint) {
+      writeText(text);
+      ones_ = nullptr;
+      return;
     }
-    ones_ = nullptr;
+  } else if (value.type() == PersistType::SmallInteger && value.integer() == 1 && ones_ != nullptr &&
+             *ones_ < mostOnes) {
+    ++*ones_;
+    return;
+  }
+  writeGuarded(value);
+}
+
+void RecordWriter::writeGuarded(const PersistValue& value) {
+  try {
+    writeAny(value);
   } catch (...) {
     if (failure_ == nullptr) {
       failure_ = std::current_exception();
@@ -107,29 +98,50 @@ void RecordWriter::WriteValue(const PersistValue& value) {
   }
 }
 
-void RecordWriter::writeSmallInteger(std::int32_t number) {
-  if (number != 1) {
-    to_ = storeVarint(storeTag(to_, Tag::SmallInteger), zigzag(number));
-    ones_ = nullptr;
-  } else if (ones_ != nullptr && *ones_ < mostOnes) {
-    ++*ones_;
-  } else {
-    to_ = storeTag(to_, Tag::Ones);
-    ones_ = to_;
-    *to_++ = 1;
+void RecordWriter::writeAny(const PersistValue& value) {
+  Byte* nextOnes = nullptr;
+  reserve(longestValue);
+  switch (value.type()) {
+    case PersistType::String:
+      if (value.text().size() > std::size_t(longestText)) {
+        throw failure({u"A text is longer than ", decimal(longestText), u" characters. Shorten it."});
+      }
+      reserve(1 + longestVarint + 2 * value.text().size());
+      writeText(value.text());
+      break;
+    case PersistType::SmallInteger:
+      if (value.integer() == 1) {
+        to_ = storeTag(to_, Tag::Ones);
+        nextOnes = to_;
+        *to_++ = 1;
+      } else {
+        to_ = storeVarint(storeTag(to_, Tag::SmallInteger), zigzag(value.integer()));
+      }
+      break;
+    case PersistType::Long:
+      to_ = storeVarint(storeTag(to_, Tag::Long), zigzag(value.integer()));
+      break;
+    case PersistType::Double:
+      to_ = storeTag(to_, Tag::Double);
+      storeNumber(to_, std::bit_cast<std::uint64_t>(value.number()));
+      to_ += sizeof(double);
+      break;
+    case PersistType::Boolean:
+      to_ = storeTag(to_, value.integer() != 0 ? Tag::True : Tag::False);
+      break;
+    case PersistType::Object:
+      writeObject(value.object());
+      break;
   }
+  ones_ = nextOnes;
 }
 
-void RecordWriter::writeText(TextView text) {
+void RecordWriter::writeText(TextView text) noexcept {
   if (text.empty()) {
     to_ = storeTag(to_, Tag::EmptyText);
     lastTextSize_ = 0;
     return;
   }
-  if (text.size() > std::numeric_limits<std::uint32_t>::max() / 2) {
-    throw failure({u"A text is longer than 2 147 483 647 characters. Shorten it."});
-  }
-  reserve(1 + longestVarint + 2 * text.size());
   Byte* const tag = to_;
   Byte* const units = storeVarint(tag + 1, static_cast<std::uint32_t>(text.size()));
   if (narrow(units, text.data(), text.size())) {
@@ -142,8 +154,7 @@ void RecordWriter::writeText(TextView text) {
   }
   units_ += text.size();
   const auto size = static_cast<std::size_t>(to_ - tag);
-  const Byte* const last = buffer_.get() + lastText_;
-  if (size == lastTextSize_ && std::equal(tag, to_, last)) {
+  if (size == lastTextSize_ && std::memcmp(tag, buffer_.get() + lastText_, size) == 0) {
     to_ = storeTag(tag, Tag::SameText);
     lastTextSize_ = 0;
   } else {

@@ -47,9 +47,17 @@ class RecordWriter final : public PersistStream {
 
  private:
   /// Makes room for so many bytes, and a block beyond them.
-  void reserve(std::size_t size);
-  void writeText(TextView text);
-  void writeSmallInteger(std::int32_t number);
+  void reserve(std::size_t size) {
+    if (static_cast<std::size_t>(limit_ - to_) < size) {
+      grow(size);
+    }
+  }
+  void grow(std::size_t size);
+  /// What goes wrong is kept for write().
+  void writeGuarded(const PersistValue& value);
+  void writeAny(const PersistValue& value);
+  /// There is room for it already.
+  void writeText(TextView text) noexcept;
   void writeObject(const PersistRef& object);
   void endRecord(Byte classNumber);
 
@@ -58,6 +66,8 @@ class RecordWriter final : public PersistStream {
   std::size_t capacity_;
   Byte* start_;
   Byte* to_;
+  /// `slack` bytes before the buffer's end.
+  Byte* limit_;
   /// The number of ones behind the value written last, if that is a run of ones.
   Byte* ones_ = nullptr;
   /// The text written last when it may be repeated, as an offset, and its size with tag and length.

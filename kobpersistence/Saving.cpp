@@ -2,13 +2,13 @@
 #include <kobpersistence/ContainerWriter.h>
 #include <kobpersistence/Describing.h>
 #include <kobpersistence/Format.h>
-#include <kobpersistence/ObjectTable.h>
+#include <kobpersistence/ObjectSet.h>
 #include <kobpersistence/RecordWriter.h>
 #include <kobpersistence/Saving.h>
 #include <kobpersistence/SharedOrder.h>
 
 #include <limits>
-#include <utility>
+#include <unordered_map>
 #include <vector>
 
 namespace kob::persistence {
@@ -37,14 +37,15 @@ class ClassNumbers {
   Byte of(const IKOBVBPersistStream& object) {
     const TextView name = object.getProgID();
     // Identifiers are static, so one that was looked up is known by its place.
-    if (name.data() == last_.data() && name.size() == last_.size()) {
-      return lastNumber_;
+    for (const Met& known : met_) {
+      if (known.name.data() == name.data() && known.name.size() == name.size()) {
+        return known.number;
+      }
     }
     Byte number = 0;
     for (const Text& known : *classes_) {
       if (known == name) {
-        last_ = name;
-        lastNumber_ = number;
+        met_.push_back({name, number});
         return number;
       }
       ++number;
@@ -54,10 +55,18 @@ class ClassNumbers {
   }
 
  private:
+  struct Met {
+    TextView name;
+    Byte number;
+  };
+
   std::shared_ptr<ProgIdTable> classes_;
-  TextView last_;
-  Byte lastNumber_ = 0;
+  std::vector<Met> met_;
 };
+
+/// What is fetched of an object that was named.
+constexpr std::size_t cacheLine = 64;
+constexpr std::size_t fetchedSize = 3 * cacheLine;
 
 PersistRef borrowed(IKOBVBPersistStream& object) {
   return {PersistRef(), &object};
@@ -69,25 +78,28 @@ class TreeSave final : private NamedObjects {
   /// Whether it is a tree; if not, nothing of use has been written.
   bool save(ContainerWriter& file, ClassNumbers& classes, IKOBVBPersistStream& first) {
     RecordWriter writer(*this);
-    pending_.push_back({objects_.add(borrowed(first)).index, 1});
-    while (!pending_.empty()) {
+    pending_.push_back({objects_.add(borrowed(first)), 1});
+    while (!pending_.empty() && objects_.isEachNew()) {
       const Pending now = pending_.back();
       pending_.pop_back();
       if (now.level > deepestNesting) {
+        // Or it is a cycle that was not noticed yet.
+        objects_.flush();
+        if (!objects_.isEachNew()) {
+          return false;
+        }
         throw tooDeep();
       }
       IKOBVBPersistStream& object = objects_.object(now.index);
       named_.clear();
       writer.write(object, classes.of(object));
-      if (!isTree_) {
-        return false;
-      }
       file.addRecord(writer.record(), writer.recordSize(), writer.units());
       for (auto named = named_.rbegin(); named != named_.rend(); ++named) {
         pending_.push_back({*named, now.level + 1});
       }
     }
-    return true;
+    objects_.flush();
+    return objects_.isEachNew();
   }
 
  private:
@@ -97,16 +109,18 @@ class TreeSave final : private NamedObjects {
   };
 
   ObjectForm name(const PersistRef& object) override {
-    const ObjectTable::Found found = objects_.add(object);
-    isTree_ = isTree_ && found.isNew;
-    named_.push_back(found.index);
+    named_.push_back(objects_.add(object));
+    // Its turn comes soon.
+    const char* const start = reinterpret_cast<const char*>(object.get());
+    for (std::size_t line = 0; line < fetchedSize; line += cacheLine) {
+      __builtin_prefetch(start + line);
+    }
     return {};
   }
 
-  ObjectTable objects_;
+  ObjectSet objects_;
   std::vector<Pending> pending_;
   std::vector<std::uint32_t> named_;
-  bool isTree_ = true;
 };
 
 /// Writes objects some of which are named more than once: all are met first, and then written in order.
@@ -114,16 +128,16 @@ class GraphSave final : private NamedObjects {
  public:
   void save(ContainerWriter& file, ClassNumbers& classes, IKOBVBPersistStream& first) {
     RecordWriter writer(*this);
-    objects_.add(borrowed(first));
-    for (std::uint32_t index = 0; index < objects_.count(); ++index) {
-      IKOBVBPersistStream& object = objects_.object(index);
+    indexOf(borrowed(first));
+    for (std::size_t index = 0; index < objects_.size(); ++index) {
+      IKOBVBPersistStream& object = *objects_[index];
       writer.write(object, classes.of(object));
       graph_.begins.push_back(static_cast<std::uint32_t>(graph_.named.size()));
     }
     order_ = orderOf(graph_);
     isOrdered_ = true;
     for (const std::uint32_t index : order_.objects) {
-      IKOBVBPersistStream& object = objects_.object(index);
+      IKOBVBPersistStream& object = *objects_[index];
       place_ = graph_.begins[index];
       writer.write(object, classes.of(object));
       if (place_ != graph_.begins[index + 1]) {
@@ -140,18 +154,29 @@ class GraphSave final : private NamedObjects {
   }
 
   ObjectForm name(const PersistRef& object) override {
-    const ObjectTable::Found found = objects_.add(object);
+    const std::uint32_t index = indexOf(object);
     if (!isOrdered_) {
-      graph_.named.push_back(found.index);
+      graph_.named.push_back(index);
       return {};
     }
-    if (found.isNew || place_ == graph_.named.size() || graph_.named[place_] != found.index) {
+    if (place_ == graph_.named.size() || graph_.named[place_] != index) {
       throw changed();
     }
-    return {order_.isNext[place_++], order_.records[found.index]};
+    return {order_.isNext[place_++], order_.records[index]};
   }
 
-  ObjectTable objects_;
+  std::uint32_t indexOf(const PersistRef& object) {
+    const auto [found, isNew] =
+        indices_.try_emplace(object.get(), static_cast<std::uint32_t>(objects_.size()));
+    if (isNew) {
+      objects_.push_back(object);
+    }
+    return found->second;
+  }
+
+  /// Kept alive, so that no object is taken for another one that had its address before.
+  std::vector<PersistRef> objects_;
+  std::unordered_map<const IKOBVBPersistStream*, std::uint32_t> indices_;
   NamingGraph graph_;
   RecordOrder order_;
   bool isOrdered_ = false;

@@ -3,12 +3,12 @@
 
 #include <kobpersistence/Bytes.h>
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 
-/// UTF-16 units as bytes. Everything here moves blocks of eight units and may touch up to seven beyond the
-/// last one, on both sides (see slack).
+/// UTF-16 units as bytes.
 namespace kob::persistence {
 
 inline constexpr std::size_t unitsPerBlock = 8;
@@ -16,7 +16,8 @@ inline constexpr std::size_t unitsPerBlock = 8;
 using NarrowBlock = Byte __attribute__((vector_size(unitsPerBlock)));
 using WideBlock = std::uint16_t __attribute__((vector_size(2 * unitsPerBlock)));
 
-/// Bytes to units of the same number.
+/// Bytes to units of the same number. Moves blocks of eight and may touch up to seven beyond the last one, on
+/// both sides (see slack).
 inline void widen(char16_t* to, const Byte* from, std::size_t count) noexcept {
   for (std::size_t i = 0; i < count; i += unitsPerBlock) {
     NarrowBlock narrow;
@@ -26,26 +27,49 @@ inline void widen(char16_t* to, const Byte* from, std::size_t count) noexcept {
   }
 }
 
-/// Units to bytes of the same number; false, with nothing of use written, when one does not fit into a byte.
-/// Reads exactly `count` units.
-inline bool narrow(Byte* to, const char16_t* from, std::size_t count) noexcept {
-  WideBlock all = {};
-  std::size_t i = 0;
-  for (; i + unitsPerBlock <= count; i += unitsPerBlock) {
-    WideBlock wide;
-    std::memcpy(&wide, from + i, sizeof wide);
-    all |= wide;
-    const NarrowBlock block = __builtin_convertvector(wide, NarrowBlock);
-    std::memcpy(to + i, &block, sizeof block);
-  }
+/// Units that do not fit into a byte leave a bit of these.
+inline constexpr std::uint64_t upperBytes = 0xFF00'FF00'FF00'FF00;
+
+/// Eight units / four units; what they have in their upper bytes is returned, or-ed together.
+inline std::uint64_t narrowEight(Byte* to, const char16_t* from) noexcept {
+  WideBlock wide;
+  std::memcpy(&wide, from, sizeof wide);
+  const NarrowBlock block = __builtin_convertvector(wide, NarrowBlock);
+  std::memcpy(to, &block, sizeof block);
   std::uint64_t halves[2];
-  std::memcpy(halves, &all, sizeof halves);
-  std::uint64_t seen = halves[0] | halves[1];
-  for (; i < count; ++i) {
-    seen |= from[i];
-    to[i] = static_cast<Byte>(from[i]);
+  std::memcpy(halves, from, sizeof halves);
+  return halves[0] | halves[1];
+}
+inline std::uint64_t narrowFour(Byte* to, const char16_t* from) noexcept {
+  std::uint64_t units = 0;
+  std::memcpy(&units, from, sizeof units);
+  std::uint64_t bytes = units & ~upperBytes;
+  bytes |= bytes >> 8;
+  bytes &= 0x0000'FFFF'0000'FFFF;
+  bytes |= bytes >> 16;
+  const auto four = static_cast<std::uint32_t>(bytes);
+  std::memcpy(to, &four, sizeof four);
+  return units;
+}
+
+/// Units to bytes of the same number; false, with nothing of use written, when one does not fit into a byte.
+/// Neither reads nor writes beyond the last one: the last block ends where the text ends.
+inline bool narrow(Byte* to, const char16_t* from, std::size_t count) noexcept {
+  std::uint64_t seen = 0;
+  if (count >= 8) {
+    for (std::size_t i = 0; i + 8 < count; i += 8) {
+      seen |= narrowEight(to + i, from + i);
+    }
+    seen |= narrowEight(to + count - 8, from + count - 8);
+  } else if (count >= 4 && std::endian::native == std::endian::little) {
+    seen = narrowFour(to, from) | narrowFour(to + count - 4, from + count - 4);
+  } else {
+    for (std::size_t i = 0; i < count; ++i) {
+      seen |= from[i];
+      to[i] = static_cast<Byte>(from[i]);
+    }
   }
-  return (seen & 0xFF00'FF00'FF00'FF00) == 0;
+  return (seen & upperBytes) == 0;
 }
 
 /// Units to and from their little-endian bytes, two a unit.

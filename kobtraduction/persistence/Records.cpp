@@ -60,8 +60,24 @@ std::shared_ptr<T> readObject(PersistStream& stream) {
   return std::static_pointer_cast<T>(object);
 }
 
-PersistValue factorValue(Factor factor) {
-  return factor.isDouble() ? PersistValue::ofDouble(factor.value()) : PersistValue::smallInteger(1);
+/// Hands a text to `assign`, without a copy of its own where the value is one.
+template <class Assign>
+void readText(PersistStream& stream, Assign assign) {
+  const PersistValue& value = stream.ReadValue();
+  if (value.type() == PersistType::String) {
+    assign(value.text());
+  } else {
+    assign(value.toText());
+  }
+}
+
+/// `one` is the small integer 1, made once for all factors of a cell.
+void writeFactor(PersistStream& stream, Factor factor, const PersistValue& one) {
+  if (factor.isDouble()) {
+    stream.WriteValue(PersistValue::ofDouble(factor.value()));
+  } else {
+    stream.WriteValue(one);
+  }
 }
 
 Factor readFactor(PersistStream& stream) {
@@ -150,18 +166,19 @@ void KOBCellTraduction::writeControl(PersistStream& stream) const {
   for (const auto& entry : list) {
     stream.WriteValue(PersistValue::object(entry));
   }
+  const PersistValue one = PersistValue::smallInteger(1);
   for (std::int32_t language = 1, last = Global_Util::NbLangues(); language <= last; ++language) {
     // Width before left, the other way round than everywhere else: files have always been written so.
-    stream.WriteValue(factorValue(widthFactor(language)));
-    stream.WriteValue(factorValue(leftFactor(language)));
+    writeFactor(stream, widthFactor(language), one);
+    writeFactor(stream, leftFactor(language), one);
   }
 }
 
 void KOBCellTraduction::read(PersistStream& stream) {
   guarded([&] {
     const std::int32_t version = stream.Version();
-    setnom(stream.ReadValue().toText());
-    setAlias(stream.ReadValue().toText());
+    readText(stream, [this](TextView text) { setnom(text); });
+    readText(stream, [this](TextView text) { setAlias(text); });
     setTypeCell(stream.ReadValue().toLong());
     if (TypeCell() == 1) {
       setColCell(std::make_shared<CellList>());
@@ -239,7 +256,7 @@ void KOBTraductionObj::write(PersistStream& stream) {
 void KOBTraductionObj::read(PersistStream& stream) {
   guarded([&] {
     stream.Version();
-    setnom(stream.ReadValue().toText());
+    readText(stream, [this](TextView text) { setnom(text); });
     TextList& list = colTraduction_.renew(TextList());
     std::shared_ptr<const void> image = stream.image();
     const bool hasImage = image != nullptr;
