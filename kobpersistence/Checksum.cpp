@@ -19,7 +19,10 @@ std::uint64_t step(std::uint64_t lane, std::uint64_t word) noexcept {
 
 void Checksum::add(const Byte* bytes, std::size_t size) noexcept {
   // Names of their own keep the lanes in registers.
-  auto [first, second, third, fourth] = lanes_;
+  std::uint64_t first = lanes_[0];
+  std::uint64_t second = lanes_[1];
+  std::uint64_t third = lanes_[2];
+  std::uint64_t fourth = lanes_[3];
   const auto block = [&](const Byte* from) {
     first = step(first, loadNumber<std::uint64_t>(from));
     second = step(second, loadNumber<std::uint64_t>(from + 8));
