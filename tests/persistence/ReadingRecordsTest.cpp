@@ -25,9 +25,10 @@ TEST_F(ReadingModels, TheRootIsReplaced) {
 TEST_F(ReadingModels, PathsLeadIntoTheNewTree) {
   KOBModeleTraduction model;
   model.Racine()->AddNoeuds(u"a");
-  const CellRef before = model.GetCell(u"a");
   const CellRef root = emptyCell(u"root");
   append(root, emptyCell(u"A"));
+  // From here on no tree changes but by the record.
+  const CellRef before = model.GetCell(u"a");
   EXPECT_TRUE(reads(model, 1, {aLong(6), anObject(root)}));
   EXPECT_EQ(model.GetCell(u"a"), root->ColCell()->Item(1));
   EXPECT_NE(model.GetCell(u"a"), before);
