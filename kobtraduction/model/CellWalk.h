@@ -92,18 +92,20 @@ class CellWalk {
       fetch(cells[count++]);
     }
     level.fetched = count;
-    const EntryList* lists[together];
+    const std::shared_ptr<KOBTraductionObj>* firstEntries[together];
     for (int i = 0; i < count; ++i) {
-      lists[i] = cells[i] != nullptr ? cells[i]->entries() : nullptr;
-      if (lists[i] != nullptr && lists[i]->Count() > 0) {
-        fetch(&*lists[i]->begin());
-      } else {
-        lists[i] = nullptr;
+      const EntryList* const list = cells[i] != nullptr ? cells[i]->entries() : nullptr;
+      firstEntries[i] = list != nullptr && list->Count() > 0 ? &*list->begin() : nullptr;
+      fetch(firstEntries[i]);
+    }
+    for (int i = 0; i < count; ++i) {
+      if (firstEntries[i] != nullptr) {
+        fetch(firstEntries[i]->get());
       }
     }
     for (int i = 0; i < count; ++i) {
-      if (lists[i] != nullptr) {
-        fetch(lists[i]->begin()->get());
+      if (firstEntries[i] != nullptr && *firstEntries[i] != nullptr) {
+        fetch((*firstEntries[i])->textUnits());
       }
     }
   }

@@ -37,8 +37,8 @@ void fetchLater(const SameTexts& entries, const std::vector<std::uint32_t>& lack
   }
   if (turn + textsAhead < lacking.size()) {
     const std::uint32_t number = lacking[turn + textsAhead];
-    fetch(textsOf(entries.entry(number)).Item(1).data());
-    fetch(textsOf(entries.likelyFirstOf(number)).Item(1).data());
+    fetch(entries.entry(number).textUnits());
+    fetch(entries.likelyFirstOf(number).textUnits());
   }
 }
 

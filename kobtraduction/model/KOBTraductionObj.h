@@ -49,6 +49,11 @@ class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream,
 
   // Internal: for the other classes and rooms of the component.
 
+  /// Where the characters of the texts lie, for who wants to fetch them before they are read; null for none.
+  const char16_t* textUnits() const noexcept {
+    const TextList* const list = colTraduction_.get();
+    return list != nullptr ? list->units() : nullptr;
+  }
   /// ColTraduction without taking a reference, or ObjectNotSet.
   TextList& texts() const {
     TextList* const list = colTraduction_.get();

@@ -55,6 +55,11 @@ class KOB_EXPORT TextList {
   /// texts before it end; one that lies elsewhere turns the list's texts into its own.
   void AddView(TextView text);
 
+  // Internal: for the entry.
+
+  /// Where the run of characters begins; null when all texts are "".
+  const char16_t* units() const noexcept { return units_; }
+
  private:
   /// More languages are rare; the ends of their texts lie apart.
   static constexpr std::uint32_t fewTexts = 6;
