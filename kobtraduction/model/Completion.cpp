@@ -33,12 +33,12 @@ void fetchLater(const SameTexts& entries, const std::vector<std::uint32_t>& lack
   if (turn + entriesAhead < lacking.size()) {
     const std::uint32_t number = lacking[turn + entriesAhead];
     fetch(&entries.entry(number));
-    fetch(&entries.likelyFirstOf(number));
+    fetch(&entries.likelyOther(number));
   }
   if (turn + textsAhead < lacking.size()) {
     const std::uint32_t number = lacking[turn + textsAhead];
     fetch(entries.entry(number).textUnits());
-    fetch(entries.likelyFirstOf(number).textUnits());
+    fetch(entries.likelyOther(number).textUnits());
   }
 }
 

@@ -38,9 +38,15 @@ class SameTexts {
       }
     }
   }
-  /// Which entry firstOf will most likely ask for.
-  const KOBTraductionObj& likelyFirstOf(std::size_t number) const noexcept {
-    return entry(members_[start_[number]].number);
+  /// Which other entry of its group an entry has most likely to do with: the first, or for the first one the
+  /// second. Itself when there is none.
+  const KOBTraductionObj& likelyOther(std::size_t number) const noexcept {
+    const std::size_t start = start_[number];
+    if (members_[start].number != number) {
+      return entry(members_[start].number);
+    }
+    const bool hasSecond = start + 1 < members_.size() && members_[start + 1].hash == members_[start].hash;
+    return entry(hasSecond ? members_[start + 1].number : number);
   }
 
  private:
