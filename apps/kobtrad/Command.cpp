@@ -98,6 +98,8 @@ std::unique_ptr<CLI::App> makeCommand(Job& job) {
   addLanguages(*command, job);
   addStats(*command, job);
   addCheck(*command, job);
+  addMerge(*command, job);
+  addComplete(*command, job);
   addTestLanguage(*command, job);
   addClearLanguage(*command, job);
   return command;

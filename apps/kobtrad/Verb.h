@@ -29,12 +29,17 @@ CLI::App* addVerb(CLI::App& command, const std::string& name, const std::string&
 /// Ends the reading of the arguments when neither was given.
 void requireTarget(const CLI::Option& out, const CLI::Option& place);
 
-/// Where a verb that changes a translation file puts the result: one of the two must be asked for.
+/// Where a verb that changes a translation file puts the result: one of the two must be asked for, or a
+/// rehearsal where one is offered.
 struct Target {
+  enum class Rehearsal { None, Offered };
+
   std::string file;
   bool isInPlace = false;
+  /// --dry-run was said: nothing is written.
+  bool isDryRun = false;
 
-  void addTo(CLI::App& verb);
+  void addTo(CLI::App& verb, Rehearsal rehearsal = Rehearsal::None);
   /// The file to write when `input` was read.
   const std::string& of(const std::string& input) const { return isInPlace ? input : file; }
 };
@@ -59,5 +64,7 @@ void addStats(CLI::App& command, Job& job);
 void addCheck(CLI::App& command, Job& job);
 void addTestLanguage(CLI::App& command, Job& job);
 void addClearLanguage(CLI::App& command, Job& job);
+void addMerge(CLI::App& command, Job& job);
+void addComplete(CLI::App& command, Job& job);
 
 }  // namespace kob::command

@@ -9,8 +9,8 @@ import unittest
 
 import harness
 
-EVERY_VERB = ("harvest", "show", "get", "set", "apply", "languages", "stats", "check", "test-language",
-              "clear-language")
+EVERY_VERB = ("harvest", "show", "get", "set", "apply", "languages", "stats", "check", "merge",
+              "complete", "test-language", "clear-language")
 
 
 def options_in(text):

@@ -228,6 +228,165 @@ class FillLanguages(harness.CommandTest):
         self.assertEqual(self.sum("app.trad"), before)
 
 
+CANCEL = "Commande\\BtnAnnuler"
+
+
+class Merge(harness.CommandTest):
+    def pair(self):
+        """app.trad without translations, and anna.trad, where one control is translated into two languages."""
+        self.settled()
+        self.kobtrad("set", "app.trad", CANCEL, 2, "&Cancel", "-o", "anna.trad")
+        self.kobtrad("set", "anna.trad", CANCEL, 3, "&Annuleren", "--in-place")
+
+    def test_fills_what_is_missing_and_tells_how_much(self):
+        self.pair()
+        done = self.kobtrad("merge", "app.trad", "anna.trad", "--in-place")
+        self.assertEqual(done.out, """\
+language    filled   missing
+       2         1         9
+       3         1         9
+       4         0        10
+       5         0        10
+       6         0        10
+""")
+        self.assertEqual(self.kobtrad("get", "app.trad", CANCEL, 3).out, "&Annuleren\n")
+
+    def test_never_overwrites(self):
+        self.pair()
+        self.kobtrad("set", "app.trad", CANCEL, 2, "Stop", "--in-place")
+        self.kobtrad("merge", "app.trad", "anna.trad", "--in-place")
+        self.assertEqual(self.kobtrad("get", "app.trad", CANCEL, 2).out, "Stop\n")
+
+    def test_of_several_files_the_first_that_has_a_text_gives_it(self):
+        self.pair()
+        self.kobtrad("set", "app.trad", CANCEL, 2, "Abort", "-o", "jan.trad")
+        self.kobtrad("merge", "app.trad", "jan.trad", "anna.trad", "--in-place")
+        self.assertEqual(self.kobtrad("get", "app.trad", CANCEL, 2).out, "Abort\n")
+        self.assertEqual(self.kobtrad("get", "app.trad", CANCEL, 3).out, "&Annuleren\n")
+
+    def test_takes_one_language_when_asked(self):
+        self.pair()
+        self.kobtrad("merge", "app.trad", "anna.trad", "--lang", 3, "--in-place")
+        self.assertEqual(self.kobtrad("get", "app.trad", CANCEL, 2).out, "\n")
+        self.assertEqual(self.kobtrad("get", "app.trad", CANCEL, 3).out, "&Annuleren\n")
+
+    def test_fills_language_1_only_when_asked(self):
+        self.pair()
+        self.kobtrad("set", "app.trad", CANCEL, 1, "", "--in-place")
+        self.assertNotIn("\n       1 ", self.kobtrad("merge", "app.trad", "anna.trad", "-o", "new.trad").out)
+        self.assertEqual(self.kobtrad("get", "new.trad", CANCEL, 1).out, "\n")
+        self.assertIn("       1         1         0\n",
+                      self.kobtrad("merge", "app.trad", "anna.trad", "--lang", 1, "-o", "new.trad").out)
+        self.assertEqual(self.kobtrad("get", "new.trad", CANCEL, 1).out, "&Annuler\n")
+
+    def test_completes_identical_texts_too(self):
+        self.pair()
+        self.kobtrad("set", "app.trad", "Commande", 1, "&ANNULER", "--in-place")
+        self.kobtrad("merge", "app.trad", "anna.trad", "--in-place")
+        self.assertEqual(self.kobtrad("get", "app.trad", "Commande", 2).out, "&Cancel\n")
+
+    def test_a_dry_run_tells_the_same_and_writes_nothing(self):
+        self.pair()
+        before = self.sum("app.trad")
+        told = self.kobtrad("merge", "app.trad", "anna.trad", "--dry-run").out
+        self.assertEqual(self.sum("app.trad"), before)
+        self.assertEqual(self.names(), ["anna.trad", "app.trad"])
+        self.assertEqual(self.kobtrad("merge", "app.trad", "anna.trad", "--in-place").out, told)
+
+    def test_a_dry_run_does_not_write_the_output_either(self):
+        self.pair()
+        self.kobtrad("merge", "app.trad", "anna.trad", "-o", "new.trad", "--dry-run")
+        self.assertEqual(self.names(), ["anna.trad", "app.trad"])
+
+    def test_without_a_target_nothing_is_changed(self):
+        self.pair()
+        before = self.sum("app.trad")
+        done = self.kobtrad("merge", "app.trad", "anna.trad", code=2)
+        self.assertIn("-o FILE or --in-place", done.err)
+        self.assertEqual(self.sum("app.trad"), before)
+
+    def test_the_other_file_stays_as_it_is(self):
+        self.pair()
+        before = self.sum("anna.trad")
+        self.kobtrad("merge", "app.trad", "anna.trad", "--in-place")
+        self.assertEqual(self.sum("anna.trad"), before)
+
+    def test_a_file_with_fewer_languages_gives_what_it_has(self):
+        self.pair()
+        self.kobtrad("languages", "app.trad", 8, "--in-place")
+        done = self.kobtrad("merge", "app.trad", "anna.trad", "--in-place")
+        self.assertEqual(done.err, "")
+        self.assertEqual(self.kobtrad("get", "app.trad", CANCEL, 2).out, "&Cancel\n")
+        self.assertEqual(self.kobtrad("languages", "app.trad").out, "8\n")
+
+    def test_a_file_with_more_languages_gives_those_that_there_are(self):
+        self.pair()
+        self.kobtrad("languages", "anna.trad", 8, "--in-place")
+        done = self.kobtrad("merge", "app.trad", "anna.trad", "--in-place")
+        self.assertIn("anna.trad has 8 languages; those beyond 6 are left out", done.err)
+        self.assertEqual(self.kobtrad("get", "app.trad", CANCEL, 2).out, "&Cancel\n")
+        self.assertEqual(self.kobtrad("languages", "app.trad").out, "6\n")
+
+    def test_a_language_that_is_not_there_is_refused(self):
+        self.pair()
+        before = self.sum("app.trad")
+        for number in (0, 7):
+            done = self.kobtrad("merge", "app.trad", "anna.trad", "--lang", number, "--in-place", code=2)
+            self.assertIn("one of 1 to 6", done.err)
+        self.assertEqual(self.sum("app.trad"), before)
+
+    def test_a_file_that_cannot_be_read_changes_nothing(self):
+        self.pair()
+        before = self.sum("app.trad")
+        done = self.kobtrad("merge", "app.trad", "anna.trad", "none.trad", "--in-place", code=3)
+        self.assertIn("none.trad cannot be read", done.err)
+        self.assertEqual(self.sum("app.trad"), before)
+
+    def test_a_target_that_cannot_be_written_ends_with_4(self):
+        self.pair()
+        self.kobtrad("merge", "app.trad", "anna.trad", "-o", "none/new.trad", code=4)
+
+    def test_needs_another_file(self):
+        self.settled()
+        self.kobtrad("merge", "app.trad", "--in-place", code=2)
+
+
+class Complete(harness.CommandTest):
+    def twins(self):
+        """A file where two texts differ in letter case alone and one of them is translated."""
+        self.settled()
+        self.kobtrad("set", "app.trad", "Commande", 1, "&ANNULER", "--in-place")
+        self.kobtrad("set", "app.trad", CANCEL, 2, "&Cancel", "--in-place")
+
+    def test_fills_from_identical_texts_and_tells_how_much(self):
+        self.twins()
+        done = self.kobtrad("complete", "app.trad", "--in-place")
+        self.assertEqual(done.out, """\
+language    filled   missing
+       2         1         8
+       3         0        10
+       4         0        10
+       5         0        10
+       6         0        10
+""")
+        self.assertEqual(self.kobtrad("get", "app.trad", "Commande", 2).out, "&Cancel\n")
+
+    def test_a_dry_run_tells_the_same_and_writes_nothing(self):
+        self.twins()
+        before = self.sum("app.trad")
+        told = self.kobtrad("complete", "app.trad", "--dry-run").out
+        self.assertEqual(self.sum("app.trad"), before)
+        self.assertEqual(self.kobtrad("complete", "app.trad", "-o", "new.trad").out, told)
+        self.assertEqual(self.sum("app.trad"), before)
+
+    def test_without_a_target_nothing_is_changed(self):
+        self.twins()
+        self.kobtrad("complete", "app.trad", code=2)
+
+    def test_a_file_that_cannot_be_read_ends_with_3(self):
+        self.kobtrad("complete", "none.trad", "--in-place", code=3)
+
+
 class Show(harness.CommandTest):
     def test_prints_the_tree(self):
         self.harvested()

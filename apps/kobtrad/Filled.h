@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <kobtraduction/model/KOBModeleTraduction.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace kob::command {
+
+/// How many texts a model has in each language, language 1 first; "" does not count.
+struct Filled {
+  std::size_t entries = 0;
+  std::vector<std::size_t> texts;
+};
+
+Filled filledTexts(const KOBModeleTraduction& model);
+
+/// What came in between, language by language, as a table for a person that ends with a line break. Language
+/// 1 has a line only when it was filled.
+std::string filledTable(const Filled& before, const Filled& after);
+
+}  // namespace kob::command
