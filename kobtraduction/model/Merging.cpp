@@ -107,7 +107,9 @@ void KOBCellTraduction::AddModele(KOBModeleTraduction& Modele) {
   const std::shared_ptr<CellList> added = Modele.Racine()->ColCell();
   for (const auto& child : required(added)) {
     for (const auto& own : children()) {
-      if (required(own).nom() == upper(textValue(required(child)))) {
+      // Read first: a child that is nothing fails before what it is compared with does.
+      const TextView name = required(own).nom();
+      if (name == upper(textValue(required(child)))) {
         Global_Util::messageBoxes().notice(
             u"Impossible : Le modèle ajouter Contient une traduction qui existe déja dans le modèle courant");
         break;
