@@ -56,6 +56,7 @@ by_pkg_config() { # NAME SOURCE PACKAGE FLAG...
 
 check "CMake, the component alone, builds" configure core -DCONSUMER_QT=OFF -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON
 check "CMake, the component alone, runs" "$folder/core/core"
+check "CMake, the persistence service without a toolkit, runs" in_folder core/file
 check "CMake, with the Qt binding, builds" configure qt "-DCONSUMER_SNIPPET=$folder/snippet.h"
 check "CMake, with the Qt binding, the component runs" "$folder/qt/core"
 check "CMake, with the Qt binding, a form runs" "$folder/qt/form"
@@ -65,11 +66,13 @@ check "the command's manual and completion are installed" test -s "$prefix/share
   -s "$prefix/share/bash-completion/completions/kobtrad"
 check "pkg-config, the component alone, builds" by_pkg_config pc-core core.cpp kobtraduction
 check "pkg-config, the component alone, runs" "$folder/pc-core"
+check "pkg-config, the persistence service, builds" by_pkg_config pc-file file.cpp kobtraduction-persistence
+check "pkg-config, the persistence service, runs" in_folder ./pc-file
 check "pkg-config, with the Qt binding, builds" by_pkg_config pc-form form.cpp kobtraduction-qt
 check "pkg-config, with the Qt binding, runs" "$folder/pc-form"
 check "every installed header compiles where no toolkit is" "$here/every-header.sh" "$prefix" "-I$prefix/include"
 check "the libraries carry their version" test -L "$libraries/libKOBTraduction.so.0" -a \
-  -L "$libraries/libKOBTraductionQt.so.0"
+  -L "$libraries/libKOBPersistence.so.0" -a -L "$libraries/libKOBTraductionQt.so.0"
 
 echo "$passed $failed 0" >"$counts"
 [ "$failed" -eq 0 ]
