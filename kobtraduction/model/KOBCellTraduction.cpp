@@ -92,24 +92,24 @@ void KOBCellTraduction::setnom(TextView name) {
   if (isAliasNom_ && name != nom()) {
     rare();
   }
-  const auto eachHolder = [this](void (CellList::*tell)(KOBCellTraduction&)) {
+  const auto eachHolder = [this](auto tell) {
     if (holder_ == nullptr) {
       return;
     }
-    (holder_->*tell)(*this);
+    tell(*holder_);
     if (rare_ != nullptr) {
       for (CellList* const holder : rare_->moreHolders) {
-        (holder->*tell)(*this);
+        tell(*holder);
       }
     }
   };
-  eachHolder(&CellList::beforeRename);
+  eachHolder([this](CellList& list) { list.beforeRename(*this); });
   std::swap(nom_, newName);
   if (isAliasNom_ && newName.text() != nom()) {
     rare_->alias = std::move(newName);
     isAliasNom_ = false;
   }
-  eachHolder(&CellList::afterRename);
+  eachHolder([this](CellList& list) { list.afterRename(*this); });
 }
 
 TextView KOBCellTraduction::Alias() const noexcept {
