@@ -5,7 +5,6 @@
 #include <kobpersistence/Units.h>
 
 #include <algorithm>
-#include <limits>
 #include <vector>
 
 namespace kob::persistence {
@@ -62,6 +61,10 @@ void ContainerWriter::put(const Byte* bytes, std::size_t size) {
 }
 
 void ContainerWriter::flush() {
+  // A record has three bytes at least, so they are not too many either.
+  if (length_ > largestFile) {
+    throw failure({u"The file would be larger than 4 GB, which is the most that can be saved."});
+  }
   if (!isStarted_) {
     // The header is not known yet: its place is kept.
     const Byte header[headerSize] = {};
@@ -74,11 +77,8 @@ void ContainerWriter::flush() {
 }
 
 void ContainerWriter::finish() {
-  flush();
   length_ += checksumSize;
-  if (length_ > largestFile || records_ > std::numeric_limits<std::uint32_t>::max()) {
-    throw failure({u"The file would be larger than 4 GB, which is the most that can be saved."});
-  }
+  flush();
   Byte header[headerSize] = {};
   std::copy(magic.begin(), magic.end(), header);
   storeNumber(header + at::version, containerVersion);

@@ -64,6 +64,9 @@ class Loading final : private FilledObjects {
   }
 
   void fillOnce() {
+    if (failure_ != nullptr) {
+      std::rethrow_exception(failure_);
+    }
     if (isFilled_) {
       return;
     }

@@ -50,20 +50,20 @@ const PersistValue& RecordReader::ReadValue() {
     case Tag::NarrowText: {
       const std::uint32_t units = loadVarint(from_);
       from_ += units;
-      value_ = PersistValue::string(takeText(units));
+      value_.becomeString(takeText(units));
       break;
     }
     case Tag::WideText: {
       const std::uint32_t units = loadVarint(from_);
       from_ += 2 * std::size_t(units);
-      value_ = PersistValue::string(takeText(units));
+      value_.becomeString(takeText(units));
       break;
     }
     case Tag::SameText:
-      value_ = PersistValue::string(takeText(lastUnits_));
+      value_.becomeString(takeText(lastUnits_));
       break;
     case Tag::EmptyText:
-      value_ = PersistValue::string({texts_, 0});
+      value_.becomeString({texts_, 0});
       break;
     case Tag::Ones:
       ones_ = std::uint32_t(*from_++) - 1;
@@ -73,7 +73,7 @@ const PersistValue& RecordReader::ReadValue() {
       value_ = PersistValue::smallInteger(static_cast<std::int16_t>(unzigzag(loadVarint(from_))));
       break;
     case Tag::Long:
-      value_ = PersistValue::ofLong(unzigzag(loadVarint(from_)));
+      value_.becomeLong(unzigzag(loadVarint(from_)));
       break;
     case Tag::Double:
       value_ = PersistValue::ofDouble(std::bit_cast<double>(loadNumber<std::uint64_t>(from_)));

@@ -3,6 +3,7 @@
 
 #include <kobpersistence/Bytes.h>
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -11,19 +12,27 @@
 /// UTF-16 units as bytes.
 namespace kob::persistence {
 
-inline constexpr std::size_t unitsPerBlock = 8;
+using NarrowBlock = Byte __attribute__((vector_size(8)));
+using DoubleBlock = Byte __attribute__((vector_size(16)));
+using WideBlock = std::uint16_t __attribute__((vector_size(16)));
 
-using NarrowBlock = Byte __attribute__((vector_size(unitsPerBlock)));
-using WideBlock = std::uint16_t __attribute__((vector_size(2 * unitsPerBlock)));
-
-/// Bytes to units of the same number. Moves blocks of eight and may touch up to seven beyond the last one, on
-/// both sides (see slack).
+/// Bytes to units of the same number. Moves blocks and may touch up to fifteen beyond the last one, on both
+/// sides (see slack).
 inline void widen(char16_t* to, const Byte* from, std::size_t count) noexcept {
-  for (std::size_t i = 0; i < count; i += unitsPerBlock) {
-    NarrowBlock narrow;
-    std::memcpy(&narrow, from + i, sizeof narrow);
-    const WideBlock wide = __builtin_convertvector(narrow, WideBlock);
-    std::memcpy(to + i, &wide, sizeof wide);
+  if constexpr (std::endian::native == std::endian::little) {
+    for (std::size_t i = 0; i < count; i += 16) {
+      DoubleBlock narrow;
+      std::memcpy(&narrow, from + i, sizeof narrow);
+      constexpr DoubleBlock zero = {};
+      const DoubleBlock low =
+          __builtin_shufflevector(narrow, zero, 0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23);
+      const DoubleBlock high =
+          __builtin_shufflevector(narrow, zero, 8, 24, 9, 25, 10, 26, 11, 27, 12, 28, 13, 29, 14, 30, 15, 31);
+      std::memcpy(to + i, &low, sizeof low);
+      std::memcpy(to + i + 8, &high, sizeof high);
+    }
+  } else {
+    std::copy(from, from + count, to);
   }
 }
 

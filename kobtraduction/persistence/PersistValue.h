@@ -45,6 +45,20 @@ class KOB_EXPORT PersistValue {
   TextView text() const noexcept { return text_; }
   const PersistRef& object() const noexcept { return object_; }
 
+  // For a stream that shows one value after the other in the same place: an assignment that is cheap when no
+  // object has to go.
+
+  void becomeString(TextView text) noexcept {
+    type_ = PersistType::String;
+    text_ = text;
+    dropObject();
+  }
+  void becomeLong(std::int32_t value) noexcept {
+    type_ = PersistType::Long;
+    integer_ = value;
+    dropObject();
+  }
+
   // Conversions by the rules of automation hosts (see Value); what does not convert is TypeMismatch.
 
   std::int32_t toLong() const;
@@ -60,6 +74,12 @@ class KOB_EXPORT PersistValue {
   explicit PersistValue(TextView text) noexcept : type_(PersistType::String), text_(text) {}
   explicit PersistValue(PersistRef object) noexcept
       : type_(PersistType::Object), object_(std::move(object)) {}
+
+  void dropObject() noexcept {
+    if (object_ != nullptr) {
+      object_.reset();
+    }
+  }
 
   PersistType type_;
   std::int32_t integer_ = 0;

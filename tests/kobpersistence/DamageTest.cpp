@@ -349,6 +349,35 @@ TEST_F(WrongRecordTest, AModelWithinAModelThatIsNamedByAnotherPlaceInTheClassTab
   EXPECT_THAT(refused(file), HasSubstr("in record 2, an object of the first one's class lies within it"));
 }
 
+/// An object that goes on reading whatever happens.
+class StubbornObject final : public IKOBVBPersistStream {
+ public:
+  TextView getProgID() const noexcept override { return u"KOBTraduction.KOBModeleTraduction"; }
+  std::shared_ptr<ProgIdTable> getProgIdTable() override { return nullptr; }
+  void write(PersistStream& /*stream*/) override {}
+  void read(PersistStream& stream) override {
+    for (int i = 0; i < 10; ++i) {
+      try {
+        stream.ReadValue();
+      } catch (const PersistFailure&) {
+        ++failures;
+      }
+    }
+  }
+
+  int failures = 0;
+};
+
+TEST_F(WrongRecordTest, AnObjectThatReadsOnIsToldAgainAndAgain) {
+  inMemory()[u"m.trad"] =
+      TestFile{.records = {record(0, 1, nextObject + nextObject), rootRecord(), rootRecord()}}.bytes();
+  StubbornObject object;
+  Global_Util::setNbLangues(-1);
+  EXPECT_THROW(persistenceService()()->LoadFromFile(u"m.trad", object), PersistFailure);
+  EXPECT_EQ(object.failures, 10);
+  EXPECT_EQ(Global_Util::NbLangues(), -1);
+}
+
 TEST_F(WrongRecordTest, ManyLanguagesOfAModelWithoutTextsAreRight) {
   inMemory()[u"m.trad"] = TestFile{.records = {modelRecord(500'000), rootRecord()}}.bytes();
   EXPECT_TRUE(model.Load(u"m.trad")) << lastNotice();
