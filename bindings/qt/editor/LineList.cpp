@@ -108,6 +108,16 @@ void LineList::keyPressEvent(QKeyEvent* event) {
   QListView::keyPressEvent(event);
 }
 
+void LineList::focusInEvent(QFocusEvent* event) {
+  const bool hadCurrent = currentIndex().isValid();
+  const QScopedValueRollback quiet(isQuiet_, true);
+  QListView::focusInEvent(event);
+  // The toolkit goes to the first one by itself.
+  if (!hadCurrent) {
+    selectionModel()->clear();
+  }
+}
+
 void LineList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QListView::currentChanged(current, previous);
   if (!isQuiet_ && keys_ == Keys::WalkReaches && current.isValid()) {

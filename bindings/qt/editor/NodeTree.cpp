@@ -96,6 +96,16 @@ void NodeTree::showEvent(QShowEvent* event) {
   }
 }
 
+void NodeTree::focusInEvent(QFocusEvent* event) {
+  const bool hadCurrent = currentIndex().isValid();
+  const QScopedValueRollback quiet(isQuiet_, true);
+  QTreeView::focusInEvent(event);
+  // The toolkit goes to the first one by itself.
+  if (!hadCurrent) {
+    selectionModel()->clear();
+  }
+}
+
 void NodeTree::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTreeView::currentChanged(current, previous);
   if (!isQuiet_ && current.isValid()) {

@@ -28,7 +28,7 @@ class Strip final : public QSplitterHandle {
   }
 
  protected:
-  void mousePressEvent(QMouseEvent* event) override { report(*event); }
+  void mousePressEvent(QMouseEvent* /*event*/) override {}
   void mouseMoveEvent(QMouseEvent* event) override { report(*event); }
   void mouseReleaseEvent(QMouseEvent* /*event*/) override {}
 
@@ -100,6 +100,7 @@ void PaneSplitter::showSizePointer(bool show) {
 Pane::Pane(QWidget* parent) : QScrollArea(parent) {
   setWidgetResizable(true);
   setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
   setMinimumSize(leastPaneWidth, leastPaneHeight);
   auto* const content = new QWidget(this);
   setWidget(content);

@@ -38,6 +38,12 @@ void QtOptionButton::showOn(bool on) {
   } else {
     control().setChecked(on);
   }
+  if (on && group != nullptr) {
+    // Tab goes to the button that is on, as it does once one of them has had the focus.
+    for (QAbstractButton* const button : group->buttons()) {
+      button->setFocusPolicy(button == &control() ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+  }
 }
 
 void QtSlider::listen(QObject& reports) {

@@ -20,9 +20,14 @@ QString withKey(const QString& caption, const QAction& action) {
       }
     }
   }
-  for (qsizetype i = 0; i < caption.size(); ++i) {
-    if (caption[i].isLetter() && !taken.contains(caption[i].toLower())) {
-      return plainCaption(toText(caption.left(i))) + QLatin1Char('&') + plainCaption(toText(caption.mid(i)));
+  // The beginning of a word is found sooner.
+  for (const bool onlyInitials : {true, false}) {
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+      const bool isInitial = i == 0 || caption[i - 1].isSpace();
+      if (caption[i].isLetter() && (isInitial || !onlyInitials) && !taken.contains(caption[i].toLower())) {
+        return plainCaption(toText(caption.left(i))) + QLatin1Char('&') +
+               plainCaption(toText(caption.mid(i)));
+      }
     }
   }
   return plainCaption(toText(caption));

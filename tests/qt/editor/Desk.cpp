@@ -43,10 +43,17 @@ void Window::type(const char* textBox, const QString& text) const {
 
 void Window::press(const char* button) const {
   auto& pressed = the<QAbstractButton>(button);
+  if (!pressed.isVisible()) {
+    throw std::runtime_error(std::string(button) + " is hidden");
+  }
   QTest::mouseClick(&pressed, Qt::LeftButton, {}, {8, pressed.height() / 2});
 }
 
 void Window::key(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
+  if (!window_.isActiveWindow()) {
+    window_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
+  }
   QWidget* const focus = window_.focusWidget();
   QTest::keyClick(focus != nullptr ? focus : &window_, key, modifiers);
 }
@@ -56,6 +63,8 @@ void Window::clickNode(const QString& path) const {
 }
 
 void Window::clickLine(const char* list, int line) const {
+  // Lines are shown a little after they were added.
+  QCoreApplication::processEvents();
   auto& view = the<QListView>(list);
   clickItem(view, view.model()->index(line, 0));
 }
@@ -134,7 +143,7 @@ void Desk::look() {
     const Script script = std::move(scripts_.front());
     scripts_.pop_front();
     try {
-      ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+      ASSERT_TRUE(QTest::qWaitForWindowActive(window));
       script(Window(*window));
     } catch (const std::exception& failure) {
       ADD_FAILURE() << failure.what();

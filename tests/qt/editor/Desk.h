@@ -19,12 +19,18 @@
 
 #include <deque>
 #include <functional>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 
 class QLineEdit;
 class QListView;
 class QPlainTextEdit;
+
+/// For messages of tests.
+inline void PrintTo(const QString& text, std::ostream* out) {
+  *out << '"' << text.toStdString() << '"';
+}
 
 /// Somebody in front of the editor's real windows.
 namespace kob::qt::testing {
@@ -40,7 +46,9 @@ class Window {
   QWidget& widget() const noexcept { return window_; }
   template <class Control = QWidget>
   Control& the(const char* name) const {
-    auto* const found = window_.findChild<Control*>(QLatin1String(name));
+    // Without a name, the only one of its kind.
+    auto* const found =
+        *name == '\0' ? window_.findChild<Control*>() : window_.findChild<Control*>(QLatin1String(name));
     if (found == nullptr) {
       throw std::runtime_error(std::string("no widget ") + name);
     }

@@ -8,7 +8,8 @@ namespace kob::qt::testing {
 using namespace kob::test;
 
 void fillSample(KOBModeleTraduction& model) {
-  const CellRef app = model.Racine()->AddNoeuds(u"App");
+  const CellRef there = model.GetCell(u"App");
+  const CellRef app = there != nullptr ? there : model.Racine()->AddNoeuds(u"App");
   const CellRef client = app->AddNoeuds(u"FrmClient");
   const CellRef save =
       control(client, u"btnEnregistrer",
