@@ -109,14 +109,16 @@ ClassTraits traitsOf(const QMetaObject& metaObject) {
 }
 
 const ClassTraits& TraitsCache::of(const QMetaObject* metaObject) {
-  if (last_ == nullptr || last_->first != metaObject) {
+  const Known::value_type*& recent =
+      recent_[(reinterpret_cast<std::uintptr_t>(metaObject) / alignof(QMetaObject)) % recent_.size()];
+  if (recent == nullptr || recent->first != metaObject) {
     auto known = known_.find(metaObject);
     if (known == known_.end()) {
       known = known_.emplace(metaObject, traitsOf(*metaObject)).first;
     }
-    last_ = &*known;
+    recent = &*known;
   }
-  return last_->second;
+  return recent->second;
 }
 
 }  // namespace kob::qt

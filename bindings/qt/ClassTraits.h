@@ -3,6 +3,7 @@
 
 #include <QMetaObject>
 
+#include <array>
 #include <cstdint>
 #include <unordered_map>
 #include <utility>
@@ -56,9 +57,11 @@ class TraitsCache {
   const ClassTraits& of(const QMetaObject* metaObject);
 
  private:
-  std::unordered_map<const QMetaObject*, ClassTraits> known_;
-  // Controls of one class often stand in a row.
-  std::pair<const QMetaObject* const, ClassTraits>* last_ = nullptr;
+  using Known = std::unordered_map<const QMetaObject*, ClassTraits>;
+
+  Known known_;
+  // A form has many widgets of few classes: the class asked for last of those that share a place here.
+  std::array<const Known::value_type*, 16> recent_ = {};
 };
 
 }  // namespace kob::qt

@@ -8,7 +8,41 @@
 
 #include <kobtraductionqt/KOBTraductionQt.h>
 
+#include <QPointer>
+
+#include <memory>
+#include <utility>
+
 namespace kob::qt {
+
+namespace {
+
+/// The Controls of a form: each question is answered by a walk of its own.
+class FormControls final : public HostObject {
+ public:
+  FormControls(QWidget& form, HostRef formObject) : form_(&form), formObject_(std::move(formObject)) {}
+
+  std::optional<Value> get(Property property) override {
+    if (form_ == nullptr || property != Property::Count) {
+      return std::nullopt;
+    }
+    return Value(static_cast<std::int32_t>(members().size()));
+  }
+  std::optional<Value> item(std::int32_t index) override {
+    return form_ != nullptr ? HostCollection(members()).item(index) : std::nullopt;
+  }
+  std::optional<std::vector<HostRef>> enumerate() override {
+    return form_ != nullptr ? std::optional(members()) : std::nullopt;
+  }
+
+ private:
+  std::vector<HostRef> members() const { return FormWalk(*form_, formObject_).takeControls(); }
+
+  QPointer<QWidget> form_;
+  HostRef formObject_;
+};
+
+}  // namespace
 
 FormObject::FormObject(QWidget& form) : LiveObject(form, nullptr, Link::None) {}
 
@@ -25,7 +59,7 @@ std::optional<Value> FormObject::read(Property property) {
     case Property::Visible:
       return Value(isVisibleItself(form()));
     case Property::Controls:
-      return Value(std::make_shared<HostCollection>(FormWalk(form(), shared_from_this()).controls()));
+      return Value(std::make_shared<FormControls>(form(), shared_from_this()));
     default:
       return std::nullopt;
   }

@@ -9,7 +9,7 @@
 
 namespace kob::qt {
 
-/// The form. Its controls are looked up anew each time that "Controls" is read.
+/// The form. Its controls are looked up anew each time that "Controls" is enumerated or counted.
 class FormObject final : public LiveObject, public std::enable_shared_from_this<FormObject> {
  public:
   explicit FormObject(QWidget& form);

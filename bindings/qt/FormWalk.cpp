@@ -34,12 +34,13 @@ FormWalk::FormWalk(QWidget& form, HostRef formObject) : form_(form), formObject_
   number();
 }
 
-std::vector<HostRef> FormWalk::controls() const {
+std::vector<HostRef> FormWalk::takeControls() {
   std::vector<HostRef> members;
   members.reserve(controls_.size());
-  for (const Control& control : controls_) {
-    members.push_back(control.object);
+  for (Control& control : controls_) {
+    members.push_back(std::move(control.object));
   }
+  controls_.clear();
   return members;
 }
 
@@ -95,14 +96,14 @@ void FormWalk::visitWidget(QWidget& widget, const Place& place) {
   Place inside{&widget, &traits, place.container, place.containerTraits};
   const auto met = met_.find(&widget);
   if (met == met_.end()) {
-    const QString name = widget.objectName();
+    QString name = widget.objectName();
     const Exposure exposure =
         exposureOf({&widget, name, traits, place.parent, *place.parentTraits, *place.containerTraits});
     if (exposure == Exposure::Closed) {
       return;
     }
     if (exposure == Exposure::Control) {
-      std::shared_ptr<LiveObject> object = expose(widget, name, traits, place);
+      std::shared_ptr<LiveObject> object = expose(widget, std::move(name), traits, place);
       if (traits.kind == Kind::Menu) {
         // Menus are no containers: what stands in one is the form's.
         inside.container = formObject_;
@@ -179,7 +180,7 @@ FormWalk::Owner FormWalk::ownerOf(const QAction& action) {
   return Owner::Nobody;
 }
 
-std::shared_ptr<LiveObject> FormWalk::expose(QWidget& widget, const QString& name, const ClassTraits& traits,
+std::shared_ptr<LiveObject> FormWalk::expose(QWidget& widget, QString name, const ClassTraits& traits,
                                              const Place& place) {
   const bool isMenu = traits.kind == Kind::Menu;
   const HostRef& owner = isMenu ? formObject_ : place.container;
@@ -201,7 +202,7 @@ std::shared_ptr<LiveObject> FormWalk::expose(QWidget& widget, const QString& nam
           std::make_shared<WidgetObject>(widget, traits.kind, owner, isMenu ? Link::Parent : Link::Container);
       break;
   }
-  controls_.push_back({object, owner.get(), name.isEmpty() ? ownName(widget) : name});
+  controls_.push_back({object, owner.get(), name.isEmpty() ? ownName(widget) : std::move(name)});
   return object;
 }
 

@@ -27,8 +27,8 @@ class FormWalk {
  public:
   FormWalk(QWidget& form, HostRef formObject);
 
-  /// The members of the form's Controls.
-  std::vector<HostRef> controls() const;
+  /// The members of the form's Controls; the walk has none of them afterwards.
+  std::vector<HostRef> takeControls();
 
   /// The object of a control, of a tool bar's button or of an entry of such a button's menu, with its owners;
   /// null for anything else.
@@ -68,7 +68,7 @@ class FormWalk {
   void visitPage(QWidget* page, const Place& place);
   void visitOwnedAction(QAction& action);
   void visitShownActions(const QWidget& widget, const Place& place);
-  std::shared_ptr<LiveObject> expose(QWidget& widget, const QString& name, const ClassTraits& traits,
+  std::shared_ptr<LiveObject> expose(QWidget& widget, QString name, const ClassTraits& traits,
                                      const Place& place);
   void takeToolBar(QToolBar& bar, const std::shared_ptr<ToolBarObject>& object);
   void takeMenus(QToolButton& button, ButtonObject& object);

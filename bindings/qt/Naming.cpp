@@ -10,6 +10,7 @@
 #include <QPushButton>
 
 #include <cstdint>
+#include <deque>
 #include <optional>
 
 namespace kob::qt {
@@ -43,7 +44,7 @@ TextView units(const QString& text) noexcept {
 // The objects of one path.
 struct SamePath {
   const void* container;
-  QString name;
+  TextView name;
   std::uint32_t hash;
   std::int32_t count = 0;
   std::int32_t next = 0;
@@ -62,7 +63,8 @@ class Paths {
     paths_.reserve(most);
   }
 
-  std::size_t add(const void* container, const QString& name) {
+  /// The name stays where it is, and must.
+  std::size_t add(const void* container, TextView name) {
     const std::uint32_t hash = hashOf(container, name);
     std::uint32_t& slot = slotOf(container, name, hash);
     if (slot == empty) {
@@ -71,7 +73,7 @@ class Paths {
     }
     return slot;
   }
-  bool has(const void* container, const QString& name) {
+  bool has(const void* container, TextView name) {
     return slotOf(container, name, hashOf(container, name)) != empty;
   }
   SamePath& operator[](std::size_t path) { return paths_[path]; }
@@ -79,15 +81,15 @@ class Paths {
  private:
   static constexpr std::uint32_t empty = ~std::uint32_t{0};
 
-  static std::uint32_t hashOf(const void* container, const QString& name) {
+  static std::uint32_t hashOf(const void* container, TextView name) {
     const auto address = reinterpret_cast<std::uintptr_t>(container) >> 4;
-    return hashUpper(units(name)) ^ (static_cast<std::uint32_t>(address) * 0x9E3779B1U);
+    return hashUpper(name) ^ (static_cast<std::uint32_t>(address) * 0x9E3779B1U);
   }
-  std::uint32_t& slotOf(const void* container, const QString& name, std::uint32_t hash) {
+  std::uint32_t& slotOf(const void* container, TextView name, std::uint32_t hash) {
     std::size_t place = hash & (slots_.size() - 1);
     while (slots_[place] != empty) {
       const SamePath& path = paths_[slots_[place]];
-      if (path.hash == hash && path.container == container && equalUpper(units(path.name), units(name))) {
+      if (path.hash == hash && path.container == container && equalUpper(path.name, name)) {
         break;
       }
       place = (place + 1) & (slots_.size() - 1);
@@ -114,6 +116,7 @@ QString ownName(const QObject& object) {
 }
 
 void numberEqualNames(const std::vector<NamedObject>& objects) {
+  std::deque<QString> numberedNames;
   Paths paths(objects.size());
   constexpr std::size_t none = ~std::size_t{0};
   std::vector<std::size_t> unnumbered;
@@ -121,8 +124,12 @@ void numberEqualNames(const std::vector<NamedObject>& objects) {
   bool collide = false;
   for (const NamedObject& object : objects) {
     const std::optional<std::int32_t> index = object.object->indexOfApplication();
-    const std::size_t path = index ? paths.add(object.container, numbered(object.name, *index))
-                                   : paths.add(object.container, object.name);
+    TextView name = units(object.name);
+    if (index) {
+      numberedNames.push_back(numbered(object.name, *index));
+      name = units(numberedNames.back());
+    }
+    const std::size_t path = paths.add(object.container, name);
     collide = ++paths[path].count > 1 || collide;
     unnumbered.push_back(index ? none : path);
   }
@@ -131,7 +138,7 @@ void numberEqualNames(const std::vector<NamedObject>& objects) {
       continue;
     }
     std::int32_t& next = paths[unnumbered[i]].next;
-    while (paths.has(objects[i].container, numbered(objects[i].name, next))) {
+    while (paths.has(objects[i].container, units(numbered(objects[i].name, next)))) {
       ++next;
     }
     objects[i].object->setIndex(next++);

@@ -43,11 +43,20 @@ inline Word upperWord(const char16_t* units) noexcept {
   return isAscii(word) ? upperAscii(word) : upperOther(units);
 }
 
-/// The last units of a text, fewer than a word holds, filled up with zeros.
-Word upperTail(const char16_t* units, std::size_t count) noexcept {
+/// The units behind the last whole word of a text, upper-cased: the last word's worth of a text that has one,
+/// else what there is, filled up with zeros.
+Word upperTail(TextView text) noexcept {
+  if (text.size() >= unitsPerWord) {
+    return upperWord(text.data() + text.size() - unitsPerWord);
+  }
   char16_t folded[unitsPerWord] = {};
-  std::transform(units, units + count, folded, upperUnit);
+  std::transform(text.begin(), text.end(), folded, upperUnit);
   return loadWord(folded);
+}
+
+bool equalWord(const char16_t* a, const char16_t* b) noexcept {
+  // Most texts that are compared are spelled alike.
+  return loadWord(a) == loadWord(b) || upperWord(a) == upperWord(b);
 }
 
 Word mix(Word hash, Word word) noexcept {
@@ -69,11 +78,11 @@ bool equalUpper(TextView a, TextView b) noexcept {
   }
   const std::size_t whole = a.size() - a.size() % unitsPerWord;
   for (std::size_t i = 0; i < whole; i += unitsPerWord) {
-    if (upperWord(a.data() + i) != upperWord(b.data() + i)) {
+    if (!equalWord(a.data() + i, b.data() + i)) {
       return false;
     }
   }
-  return upperTail(a.data() + whole, a.size() - whole) == upperTail(b.data() + whole, b.size() - whole);
+  return whole == a.size() || upperTail(a) == upperTail(b);
 }
 
 bool equalToUpper(TextView text, TextView uppered) noexcept {
@@ -86,7 +95,8 @@ bool equalToUpper(TextView text, TextView uppered) noexcept {
       return false;
     }
   }
-  return std::equal(text.begin() + static_cast<std::ptrdiff_t>(whole), text.end(),
+  return whole == text.size() ||
+         std::equal(text.begin() + static_cast<std::ptrdiff_t>(whole), text.end(),
                     uppered.begin() + static_cast<std::ptrdiff_t>(whole),
                     [](char16_t own, char16_t other) { return upperUnit(own) == other; });
 }
@@ -108,7 +118,7 @@ std::uint32_t hashUpper(TextView text) noexcept {
     hash = mix(hash, upperWord(text.data() + i));
   }
   if (whole != text.size()) {
-    hash = mix(hash, upperTail(text.data() + whole, text.size() - whole));
+    hash = mix(hash, upperTail(text));
   }
   return static_cast<std::uint32_t>(hash ^ (hash >> 32));
 }

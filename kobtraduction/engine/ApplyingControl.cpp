@@ -19,6 +19,37 @@ TextView textOf(const KOBTraductionObj& entry, std::int32_t langue) {
   return text.empty() ? texts.Item(1) : text;
 }
 
+/// Whether an entry bears a name, case ignored; most are spelled as the component spells them.
+bool isNamed(TextView name, TextView usual, TextView uppered) {
+  return name == usual || equalToUpper(name, uppered);
+}
+
+/// A text that stays whatever becomes of the model.
+class Copy {
+ public:
+  explicit Copy(TextView text) {
+    if (text.size() > usualLength) {
+      long_ = text;
+      text_ = long_;
+    } else {
+      text.copy(short_, text.size());
+      text_ = TextView(short_, text.size());
+    }
+  }
+  Copy(const Copy&) = delete;
+  Copy& operator=(const Copy&) = delete;
+
+  TextView text() const noexcept { return text_; }
+
+ private:
+  /// Tool tips are seldom longer, and are then copied without an allocation.
+  static constexpr std::size_t usualLength = 120;
+
+  char16_t short_[usualLength];
+  Text long_;
+  TextView text_;
+};
+
 /// The texts that a cell, and then its context cell, have for one control.
 struct ControlTexts {
   TextView caption;
@@ -30,10 +61,10 @@ struct ControlTexts {
   void readFrom(const KOBCellTraduction& cell, std::int32_t langue) {
     for (const auto& entry : mustBeSet(cell.entries())) {
       const TextView name = mustBeSet(entry).nom();
-      if (equalToUpper(name, u"CAPTION")) {
+      if (isNamed(name, u"Caption", u"CAPTION")) {
         hasCaption = true;
         caption = textOf(*entry, langue);
-      } else if (equalToUpper(name, u"TOOLTIP")) {
+      } else if (isNamed(name, u"ToolTip", u"TOOLTIP")) {
         hasToolTip = true;
         toolTip = textOf(*entry, langue);
       }
@@ -126,12 +157,12 @@ void translate(const KOBCellTraduction& cell, const HostRef& control, std::int32
   }
 
   // Skip mode. The host may change the model while it takes the caption, so the tool tip is copied before.
-  const Text toolTip(texts.toolTip);
+  const Copy toolTip(texts.toolTip);
   if (!keepCaption && texts.hasCaption) {
     write(control, Property::Caption, texts.caption);
   }
   if (!keepToolTip && texts.hasToolTip) {
-    write(control, Property::ToolTipText, toolTip);
+    write(control, Property::ToolTipText, toolTip.text());
   }
   scale(control, Property::Left, leftFactor);
   scale(control, Property::Width, widthFactor);

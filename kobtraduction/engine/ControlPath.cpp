@@ -28,6 +28,7 @@ const Text& ControlPaths::pathOf(const HostRef& control) {
   }
   if (container == nullptr) {
     path_ = module_;
+    begun_ = nullptr;
   } else if (followsContainer) {
     startWith(container, Property::Container, byContainer_);
   } else {
@@ -46,6 +47,18 @@ const Text& ControlPaths::pathOf(const HostRef& control) {
 }
 
 void ControlPaths::startWith(const HostRef& container, Property link, KnownPaths& known) {
+  if (begun_ != nullptr && begunLink_ == link && begun_->container->identity() == container->identity()) {
+    path_.resize(begunLength_);
+    return;
+  }
+  findOrWrite(container, link, known);
+  const auto found = known.find(container->identity());
+  begun_ = found != known.end() ? &found->second : nullptr;
+  begunLink_ = link;
+  begunLength_ = path_.size();
+}
+
+void ControlPaths::findOrWrite(const HostRef& container, Property link, KnownPaths& known) {
   if (const auto found = known.find(container->identity()); found != known.end()) {
     path_ = found->second.path;
     return;

@@ -28,12 +28,18 @@ class ControlPaths {
 
   /// Makes path_ the path of a container.
   void startWith(const HostRef& container, Property link, KnownPaths& known);
+  void findOrWrite(const HostRef& container, Property link, KnownPaths& known);
 
   Text module_;
   /// One buffer for all paths: most calls need no memory of their own.
   Text path_;
   KnownPaths byContainer_;
   KnownPaths byParent_;
+  /// Siblings mostly follow one another: the known container that path_ begins with, and how much of it is
+  /// that container's.
+  const Known* begun_ = nullptr;
+  Property begunLink_ = Property::Container;
+  std::size_t begunLength_ = 0;
 };
 
 }  // namespace kob

@@ -53,12 +53,16 @@ std::vector<HostRef> gatherControls(const HostRef& form, RecordBinding binding) 
     skip(members, controls->enumerate());
   }
   gathered.reserve(members.size());
-  for (const HostRef& control : members) {
+  for (HostRef& control : members) {
     HostRef subControls;
     HostRef buttons;
     skip(subControls, readObject(control, Property::Controls));
     skip(buttons, readObject(control, Property::Buttons));
-    gathered.push_back(control);
+    if (buttons == nullptr) {
+      gathered.push_back(std::move(control));
+    } else {
+      gathered.push_back(control);
+    }
     if (subControls != nullptr) {
       const std::vector<HostRef> inner = must(subControls->enumerate());
       gathered.insert(gathered.end(), inner.begin(), inner.end());
