@@ -19,9 +19,9 @@ double secondsOf(const timeval& time) {
 /// The processor time of this thread, on which all that is timed runs, and of the commands that it has run:
 /// what others do on the machine meanwhile does not count, which would otherwise hit whoever needs longer
 /// than a time slice more often than the others.
-double now() {
+double now(Clock clock) {
   timespec time{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+  clock_gettime(clock == Clock::Thread ? CLOCK_THREAD_CPUTIME_ID : CLOCK_MONOTONIC, &time);
   rusage commands{};
   getrusage(RUSAGE_CHILDREN, &commands);
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9 +
@@ -64,6 +64,12 @@ void Contest::add(const std::string& name, std::int64_t operations, std::functio
   contenders_.push_back({static_cast<double>(operations), std::move(run), std::move(prepare)});
 }
 
+void Contest::addBytes(const std::string& name, std::function<double()> measure) {
+  measured_.unit = Unit::Bytes;
+  measured_.series.push_back({name, {}});
+  contenders_.push_back({1, {}, {}, std::move(measure)});
+}
+
 double Contest::round() {
   double first = 0;
   for (std::size_t i = 0; i < contenders_.size(); ++i) {
@@ -83,14 +89,17 @@ void Contest::warmUp() {
 }
 
 double Contest::turn(const Contender& contender) const {
+  if (contender.measure) {
+    return contender.measure();
+  }
   double total = 0;
   for (int pass = 0; pass < passes_; ++pass) {
     if (contender.prepare) {
       contender.prepare(pass);
     }
-    const double start = now();
+    const double start = now(clock_);
     contender.run(pass);
-    total += now() - start;
+    total += now(clock_) - start;
     if (settle_) {
       settle_();
     }

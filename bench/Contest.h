@@ -8,13 +8,19 @@
 
 namespace bench {
 
-/// What one contender needed for one operation, in seconds, round by round.
+/// What one contender needed for one operation, in seconds (or in bytes), round by round.
 struct Series {
   std::string name;
   std::vector<double> seconds;
 };
 
-/// What one contender must and should cost, as a multiple of what another one costs.
+/// Which time counts: that of the processor, or that of the wall where waiting is part of the work.
+enum class Clock { Thread, Wall };
+/// What is measured.
+enum class Unit { Seconds, Bytes };
+
+/// What one contender must and should cost, as a multiple of what another one costs, or in all when there is
+/// no other.
 struct Target {
   std::string subject;
   std::string reference;
@@ -29,6 +35,7 @@ struct Measured {
   std::string size;
   std::vector<Series> series;
   std::vector<Target> targets;
+  Unit unit = Unit::Seconds;
 
   const Series* find(const std::string& name) const;
 };
@@ -49,9 +56,13 @@ class Contest {
   /// Called after every pass, and never timed.
   void setSettle(std::function<void()> settle) { settle_ = std::move(settle); }
 
+  void setClock(Clock clock) { clock_ = clock; }
+
   /// `run` does `operations` operations. `prepare` is called before each pass, and never timed.
   void add(const std::string& name, std::int64_t operations, std::function<void(int pass)> run,
            std::function<void(int pass)> prepare = {});
+  /// A contender whose figure is not a time: `measure` tells it, in bytes.
+  void addBytes(const std::string& name, std::function<double()> measure);
   void expect(Target target) { measured_.targets.push_back(std::move(target)); }
 
   /// One turn of everybody; the seconds that the first one needed.
@@ -65,6 +76,7 @@ class Contest {
     double operations;
     std::function<void(int)> run;
     std::function<void(int)> prepare;
+    std::function<double()> measure = {};
   };
 
   double turn(const Contender& contender) const;
@@ -72,6 +84,7 @@ class Contest {
   Measured measured_;
   std::vector<Contender> contenders_;
   std::function<void()> settle_;
+  Clock clock_ = Clock::Thread;
   int passes_ = 1;
 };
 

@@ -38,6 +38,7 @@ int main(int argc, char* argv[]) {
   bench::addHarvesting(suite);
   bench::addControlPaths(suite);
   bench::addLookup(suite);
+  bench::addPersistence(suite);
   bench::addMerging(suite);
 
   std::vector<std::string> rest = options.remaining();

@@ -25,14 +25,21 @@ std::string timeText(double seconds) {
   return seconds < 1e-3 ? format("%.2f us", seconds * 1e6) : format("%.2f ms", seconds * 1e3);
 }
 
+std::string figureText(const Measured& measured, double value) {
+  return measured.unit == Unit::Bytes ? format("%.1f B", value) : timeText(value);
+}
+
 std::string padded(std::string text, std::size_t width) {
   text.resize(std::max(width, text.size() + 1), ' ');
   return text;
 }
 
-/// The ratio that a target is about; 0 when one of the two was not measured.
+/// The ratio, or the figure, that a target is about; 0 when it was not measured.
 double ratioOf(const Measured& measured, const Target& target) {
   const Series* const subject = measured.find(target.subject);
+  if (subject != nullptr && target.reference.empty()) {
+    return median(subject->seconds);
+  }
   const Series* const reference = measured.find(target.reference);
   return subject != nullptr && reference != nullptr ? pairedRatio(*subject, *reference) : 0;
 }
@@ -52,15 +59,19 @@ void printMeasured(const Measured& measured, std::ostream& out) {
   for (const Series& series : measured.series) {
     const bool isFirst = &series == &own;
     out << padded(isFirst ? measured.what : "", 34) << padded(isFirst ? measured.size : "", 12)
-        << padded(series.name, 28) << padded(timeText(median(series.seconds)), 12);
+        << padded(series.name, 28) << padded(figureText(measured, median(series.seconds)), 12);
     out << (isFirst ? "" : format("%.2fx", pairedRatio(own, series))) << '\n';
   }
   for (const Target& target : measured.targets) {
     const double ratio = ratioOf(measured, target);
-    out << "    " << target.subject << " / " << target.reference << ": " << format("%.2fx", ratio)
-        << ", must " << format("%.2fx", target.must);
+    const bool isRatio = !target.reference.empty();
+    const auto figure = [&](double value) {
+      return isRatio ? format("%.2fx", value) : figureText(measured, value);
+    };
+    out << "    " << target.subject << (isRatio ? " / " : "") << target.reference << ": " << figure(ratio)
+        << ", must " << figure(target.must);
     if (target.aim != 0) {
-      out << ", aim " << format("%.2fx", target.aim);
+      out << ", aim " << figure(target.aim);
     }
     out << ": " << verdict(target, ratio) << '\n';
   }
@@ -73,10 +84,11 @@ QJsonObject toJson(const Measured& measured) {
     for (const double seconds : each.seconds) {
       rounds.append(seconds);
     }
-    series.append(QJsonObject{{"name", QString::fromStdString(each.name)},
-                              {"median_seconds", median(each.seconds)},
-                              {"own_time_over_this", pairedRatio(measured.series.front(), each)},
-                              {"rounds_seconds", rounds}});
+    series.append(
+        QJsonObject{{"name", QString::fromStdString(each.name)},
+                    {measured.unit == Unit::Bytes ? "median_bytes" : "median_seconds", median(each.seconds)},
+                    {"own_time_over_this", pairedRatio(measured.series.front(), each)},
+                    {measured.unit == Unit::Bytes ? "rounds_bytes" : "rounds_seconds", rounds}});
   }
   QJsonArray targets;
   for (const Target& target : measured.targets) {

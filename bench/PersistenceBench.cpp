@@ -1,0 +1,232 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include "SavedForms.h"
+#include "Suite.h"
+
+#include <kobpersistence/FileManagerOn.h>
+#include <kobpersistence/KOBPersistence.h>
+#include <kobpersistence/PosixCalls.h>
+
+#include <QDataStream>
+#include <QFile>
+#include <QSaveFile>
+#include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <unistd.h>
+#include <pugixml.hpp>
+
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+
+namespace bench {
+
+namespace {
+
+void require(bool done, const char* what) {
+  if (!done) {
+    throw std::runtime_error(what);
+  }
+}
+
+/// Files that are not flushed to the disk.
+class UnflushedCalls final : public kob::persistence::PosixCalls {
+ public:
+  int fsync(int /*file*/) override { return 0; }
+};
+
+/// The same content in four files, and what is loaded from them.
+class Files {
+ public:
+  explicit Files(const SavedForms& forms)
+      : unflushed_(kob::persistence::makePosixStorage(calls_)),
+        model_(forms.model()),
+        lists_(forms.lists()),
+        flat_(forms.flatBytes()) {
+    kob::usePersistence();
+    require(model_->Save(path("model.trad").toStdU16String()), "the model cannot be saved");
+    saveLists();
+    require(forms.document()->save_file(path("model.xml").toUtf8().constData(), "", pugi::format_raw),
+            "the XML file cannot be written");
+    writeBytes("flat", flat_.constData(), flat_.size(), false);
+    QFile saved(path("model.trad"));
+    require(saved.open(QIODevice::ReadOnly), "the model's file cannot be read");
+    bytes_ = saved.readAll();
+  }
+
+  qint64 modelSize() const { return bytes_.size(); }
+
+  void loadModel() {
+    loaded_ = std::make_unique<kob::KOBModeleTraduction>();
+    require(loaded_->Load(path("model.trad").toStdU16String()), "the model cannot be loaded");
+  }
+  void walkModel() {
+    loadModel();
+    read_ = readAll(*loaded_);
+  }
+  void findModel() {
+    walkModel();
+    findAll(*loaded_);
+  }
+  void loadLists() {
+    QFile file(path("model.lists"));
+    require(file.open(QIODevice::ReadOnly), "the lists cannot be read");
+    const QByteArray bytes = file.readAll();
+    QDataStream stream(bytes);
+    stream >> loadedLists_;
+  }
+  void loadXml() {
+    loadedXml_ = std::make_unique<pugi::xml_document>();
+    require(loadedXml_->load_file(path("model.xml").toUtf8().constData()), "the XML file cannot be read");
+  }
+  /// One read into memory, and one copy of it.
+  void readFlat() {
+    const auto size = static_cast<std::size_t>(flat_.size());
+    read1_ = std::make_unique_for_overwrite<char[]>(size);
+    read2_ = std::make_unique_for_overwrite<char[]>(size);
+    const int file = ::open(path("flat").toUtf8().constData(), O_RDONLY | O_CLOEXEC);
+    const ssize_t read = ::read(file, read1_.get(), size);
+    ::close(file);
+    require(read == static_cast<ssize_t>(size), "the flat file cannot be read");
+    std::memcpy(read2_.get(), read1_.get(), size);
+  }
+  void forget() {
+    loaded_ = nullptr;
+    loadedLists_ = {};
+    loadedXml_ = nullptr;
+    read1_ = nullptr;
+    read2_ = nullptr;
+  }
+
+  void saveModel() {
+    require(model_->Save(path("model.trad").toStdU16String()), "the model cannot be saved");
+  }
+  void saveModelUnflushed() {
+    kob::persistence::makeFileManagerOn(*unflushed_)
+        ->SaveToFile(path("unflushed.trad").toStdU16String(), *model_, 1);
+  }
+  void saveLists() const {
+    QFile file(path("model.lists"));
+    require(file.open(QIODevice::WriteOnly), "the lists cannot be written");
+    QDataStream stream(&file);
+    stream << lists_;
+  }
+  /// The bytes of the model's file, which are there already.
+  void writeModelBytes(bool flush) const { writeBytes("bytes", bytes_.constData(), bytes_.size(), flush); }
+  void saveBytes() const {
+    QSaveFile file(path("saved"));
+    require(file.open(QIODevice::WriteOnly) && file.write(bytes_) == bytes_.size() && file.commit(),
+            "QSaveFile cannot save");
+  }
+
+ private:
+  QString path(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
+
+  void writeBytes(const char* name, const char* bytes, qint64 size, bool flush) const {
+    const int file = ::open(path(name).toUtf8().constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    const ssize_t written = ::write(file, bytes, static_cast<std::size_t>(size));
+    const bool isFlushed = !flush || ::fsync(file) == 0;
+    ::close(file);
+    require(written == size && isFlushed, "the bytes cannot be written");
+  }
+
+  QTemporaryDir folder_;
+  UnflushedCalls calls_;
+  std::unique_ptr<kob::persistence::Storage> unflushed_;
+  std::unique_ptr<kob::KOBModeleTraduction> model_;
+  QList<QStringList> lists_;
+  QByteArray flat_;
+  QByteArray bytes_;
+
+  std::unique_ptr<kob::KOBModeleTraduction> loaded_;
+  QList<QStringList> loadedLists_;
+  std::unique_ptr<pugi::xml_document> loadedXml_;
+  std::unique_ptr<char[]> read1_;
+  std::unique_ptr<char[]> read2_;
+  std::size_t read_ = 0;
+};
+
+using Step = void (Files::*)();
+
+void contestOfLoading(Files& files, const SavedForms& forms, const std::function<void(Contest&)>& run) {
+  Contest contest("Load", std::to_string(forms.entries()));
+  const auto add = [&](const char* name, Step step) {
+    contest.add(
+        name, forms.texts(), [&files, step](int) { (files.*step)(); }, [&files](int) { files.forget(); });
+  };
+  add("Load", &Files::loadModel);
+  add("Load, every text read", &Files::walkModel);
+  add("read + memcpy, 64 B a text", &Files::readFlat);
+  add("QDataStream of lists", &Files::loadLists);
+  add("pugixml", &Files::loadXml);
+  contest.expect({"Load", "read + memcpy, 64 B a text", 1.5, 1.1});
+  contest.expect({"Load, every text read", "read + memcpy, 64 B a text", 1.5, 1.1});
+  contest.expect({"Load, every text read", "QDataStream of lists", 1.0});
+  contest.expect({"Load, every text read", "pugixml", 1.0});
+  run(contest);
+  files.forget();
+}
+
+void contestOfSaving(Files& files, const SavedForms& forms, const std::function<void(Contest&)>& run) {
+  Contest contest("Save, no flush", std::to_string(forms.entries()));
+  contest.add("Save", forms.texts(), [&](int) { files.saveModelUnflushed(); });
+  contest.add("write", forms.texts(), [&](int) { files.writeModelBytes(false); });
+  contest.add("QDataStream of lists", forms.texts(), [&](int) { files.saveLists(); });
+  contest.expect({"Save", "write", 4, 2.5});
+  run(contest);
+}
+
+void contestOfFlushing(Files& files, const SavedForms& forms, const std::function<void(Contest&)>& run) {
+  Contest contest("Save, flush and rename", std::to_string(forms.entries()));
+  // Waiting for the disk is most of it.
+  contest.setClock(Clock::Wall);
+  contest.add("Save", forms.texts(), [&](int) { files.saveModel(); });
+  contest.add("QSaveFile", forms.texts(), [&](int) { files.saveBytes(); });
+  contest.add("write + fsync", forms.texts(), [&](int) { files.writeModelBytes(true); });
+  contest.expect({"Save", "QSaveFile", 1});
+  contest.expect({"Save", "write + fsync", 3, 1.6});
+  run(contest);
+}
+
+void contestOfBytes(Files& files, const SavedForms& forms, const std::function<void(Contest&)>& run) {
+  Contest contest("Bytes a text", std::to_string(forms.entries()));
+  const auto add = [&](const char* name, Step step) {
+    contest.addBytes(name, [&files, &forms, step] {
+      files.forget();
+      return static_cast<double>(growthOf([&] { (files.*step)(); })) / forms.texts();
+    });
+  };
+  contest.addBytes("file", [&] { return static_cast<double>(files.modelSize()) / forms.texts(); });
+  add("memory, every text read", &Files::walkModel);
+  add("memory, and all found by path", &Files::findModel);
+  add("memory, QDataStream of lists", &Files::loadLists);
+  add("memory, pugixml", &Files::loadXml);
+  contest.expect({"file", "", 64, 50});
+  contest.expect({"memory, every text read", "", 120, 100});
+  contest.expect({"memory, and all found by path", "", 120, 100});
+  run(contest);
+}
+
+}  // namespace
+
+void addPersistence(Suite& suite) {
+  for (const int entries : {10000, 100000, 1000000}) {
+    if (suite.settings().quick && entries > 100000) {
+      continue;
+    }
+    const auto add = [&suite, entries](const std::string& name, auto play) {
+      suite.add("Persistence/" + name + '/' + std::to_string(entries), [entries, play](const auto& run) {
+        const SavedForms forms(entries);
+        Files files(forms);
+        play(files, forms, run);
+      });
+    };
+    add("load", &contestOfLoading);
+    add("save", &contestOfSaving);
+    add("save-flushed", &contestOfFlushing);
+    add("bytes", &contestOfBytes);
+  }
+}
+
+}  // namespace bench
