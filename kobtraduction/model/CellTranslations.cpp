@@ -60,7 +60,7 @@ void KOBCellTraduction::setTypeFeuille(std::int32_t kind) {
 void KOBCellTraduction::clearTranslations() noexcept {
   untouched_ = -1;
   traduction_ = nullptr;
-  colTraduction_.assign(nullptr);
+  colTraduction_.drop();
   dropFactors();
 }
 

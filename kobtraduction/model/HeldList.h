@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <utility>
 
@@ -18,55 +17,68 @@ class HeldList {
  public:
   HeldList() = default;
   /// An object that starts with a list.
-  explicit HeldList(List list) : inside_(std::move(list)), place_(Place::Inside) {}
+  explicit HeldList(List list) : inside_(std::move(list)), isInside_(true) {}
 
   /// The list, or null for none.
-  List* get() const noexcept { return place_ == Place::Inside ? &inside_ : apart_.get(); }
+  List* get() const noexcept {
+    if (isInside_) {
+      return &inside_;
+    }
+    return apart_ != nullptr ? apart_->get() : nullptr;
+  }
 
   /// The list as a reference; `owner` is the object that this lies in.
   std::shared_ptr<List> share(const std::shared_ptr<const void>& owner) const {
-    if (place_ != Place::Inside) {
-      return apart_;
+    if (!isInside_) {
+      return apart_ != nullptr ? *apart_ : nullptr;
     }
     isShared_ = true;
     return {owner, &inside_};
   }
 
   /// The list becomes this one, or none.
-  void assign(std::shared_ptr<List> list) noexcept {
+  void assign(std::shared_ptr<List> list) {
     if (list.get() == &inside_) {
       // A reference to itself would never let go of the object.
-      place_ = Place::Inside;
       apart_ = nullptr;
+      isInside_ = true;
       return;
     }
-    place_ = Place::Apart;
-    apart_ = std::move(list);
-    if (!isShared_) {
-      inside_ = List();
-    }
+    apart_ = list != nullptr ? std::make_unique<std::shared_ptr<List>>(std::move(list)) : nullptr;
+    clear();
+  }
+
+  /// The list becomes none.
+  void drop() noexcept {
+    apart_ = nullptr;
+    clear();
   }
 
   /// The list becomes a new one.
   List& renew(List list) {
     if (isShared_) {
-      place_ = Place::Apart;
-      apart_ = std::make_shared<List>(std::move(list));
-      return *apart_;
+      assign(std::make_shared<List>(std::move(list)));
+      return **apart_;
     }
-    place_ = Place::Inside;
     apart_ = nullptr;
     inside_ = std::move(list);
+    isInside_ = true;
     return inside_;
   }
 
  private:
-  enum class Place : std::uint8_t { Apart, Inside };
+  void clear() noexcept {
+    isInside_ = false;
+    if (!isShared_) {
+      inside_ = List();
+    }
+  }
 
   /// The list is part of what the object refers to, not of the object.
   mutable List inside_;
-  std::shared_ptr<List> apart_;
-  Place place_ = Place::Apart;
+  /// Few objects are ever assigned a list, so the reference to it lies apart.
+  std::unique_ptr<std::shared_ptr<List>> apart_;
+  bool isInside_ = false;
   mutable bool isShared_ = false;
 };
 

@@ -39,7 +39,9 @@ thread_local std::vector<std::shared_ptr<CellList>>* releasing = nullptr;
 
 }  // namespace
 
-KOBCellTraduction::KOBCellTraduction(Key) {}
+// As if its kinds, none at first, had been assigned: a leaf with a message.
+KOBCellTraduction::KOBCellTraduction(Key)
+    : untouched_(std::max(Global_Util::NbLangues(), 0)), typeCell_(2), typeFeuille_(1) {}
 
 KOBCellTraduction::~KOBCellTraduction() {
   if (colCell_ == nullptr) {
@@ -60,21 +62,17 @@ KOBCellTraduction::~KOBCellTraduction() {
 }
 
 std::shared_ptr<KOBCellTraduction> KOBCellTraduction::create() {
-  auto cell = std::make_shared<KOBCellTraduction>(Key{});
-  cell->setTypeCell(2);
-  cell->setTypeFeuille(1);
-  return cell;
+  return std::make_shared<KOBCellTraduction>(Key{});
 }
 
 std::shared_ptr<KOBCellTraduction> KOBCellTraduction::createControl() {
-  auto cell = std::make_shared<KOBCellTraduction>(Key{});
-  cell->setTypeCell(2);
+  auto cell = create();
   cell->setTypeFeuille(2);
   return cell;
 }
 
 std::shared_ptr<KOBCellTraduction> KOBCellTraduction::createNode() {
-  auto cell = std::make_shared<KOBCellTraduction>(Key{});
+  auto cell = create();
   cell->setTypeCell(1);
   cell->setTypeFeuille(0);
   return cell;

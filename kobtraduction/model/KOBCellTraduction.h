@@ -65,9 +65,7 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   std::shared_ptr<KOBTraductionObj> Traduction() const;
   void setTraduction(std::shared_ptr<KOBTraductionObj> entry);
   std::shared_ptr<EntryList> ColTraduction() const { return colTraduction_.share(weak_from_this().lock()); }
-  void setColTraduction(std::shared_ptr<EntryList> entries) noexcept {
-    colTraduction_.assign(std::move(entries));
-  }
+  void setColTraduction(std::shared_ptr<EntryList> entries) { colTraduction_.assign(std::move(entries)); }
   std::shared_ptr<FactorList> ColLeft() const;
   void setColLeft(std::shared_ptr<FactorList> factors);
   std::shared_ptr<FactorList> ColWidth() const;
@@ -210,9 +208,9 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   std::int32_t width_ = 0;
   /// When not negative: what the cell was given with its kind is as it was then, and not made yet, for so
   /// many languages: the entry of a message without texts, or both factor lists of a control, all 1.
-  mutable std::int32_t untouched_ = -1;
-  std::int8_t typeCell_ = -1;
-  std::int8_t typeFeuille_ = -1;
+  mutable std::int32_t untouched_;
+  std::int8_t typeCell_;
+  std::int8_t typeFeuille_;
   bool isAliasNom_ = false;
   bool contexte_ = false;
   /// A walk is inside this cell.

@@ -31,7 +31,7 @@ class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream,
   /// The texts; may be none when a host has assigned none. A list that is kept keeps its entry alive, when
   /// that is one that references share.
   std::shared_ptr<TextList> ColTraduction() const { return colTraduction_.share(weak_from_this().lock()); }
-  void setColTraduction(std::shared_ptr<TextList> texts) noexcept { colTraduction_.assign(std::move(texts)); }
+  void setColTraduction(std::shared_ptr<TextList> texts) { colTraduction_.assign(std::move(texts)); }
 
   /// The translation's name within a control cell; "" for the entry of a message cell.
   /// The view lives until the name is changed.
