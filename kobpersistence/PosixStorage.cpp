@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <climits>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace kob::persistence {
@@ -255,8 +256,8 @@ class PosixStorage final : public Storage {
       if (size < 0) {
         throw fileFailure(path, u"written", errno);
       }
-      const std::string next(to, static_cast<std::size_t>(size));
-      path = !next.empty() && next[0] == '/' ? next : folderOf(path) + next;
+      const std::string_view next(to, static_cast<std::size_t>(size));
+      path = next.substr(0, 1) == "/" ? std::string(next) : folderOf(path).append(next);
     }
     throw fileFailure(path, u"written", ELOOP);
   }

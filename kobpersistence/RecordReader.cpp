@@ -63,7 +63,8 @@ const PersistValue& RecordReader::ReadValue() {
       value_.becomeString(takeText(lastUnits_));
       break;
     case Tag::EmptyText:
-      value_.becomeString({texts_, 0});
+      // Where a text would lie, so that it continues the run of those around it.
+      value_.becomeString(TextView(texts_, texts_));
       break;
     case Tag::Ones:
       ones_ = std::uint32_t(*from_++) - 1;

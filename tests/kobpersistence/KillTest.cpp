@@ -3,11 +3,12 @@
 #include "ServiceTest.h"
 
 #include <gmock/gmock.h>
-#include <signal.h>
+
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
+#include <csignal>
 #include <random>
 #include <thread>
 

@@ -3,9 +3,8 @@
 
 #include "tests/doubles/Utf8.h"
 
-#include <stdlib.h>
-
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
