@@ -53,7 +53,9 @@ class UsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// The verbs, one file each.
+// The verbs, one file each. Another one is a file XyzVerb.cpp with an addXyz, declared here and called by
+// makeCommand where --help shall list it; the manual page, the completion and their test follow by
+// themselves. One that needs the toolkit belongs to the library kob_kobtrad_forms.
 void addHarvest(CLI::App& command, Job& job);
 void addApply(CLI::App& command, Job& job);
 void addShow(CLI::App& command, Job& job);
