@@ -25,7 +25,7 @@ struct ApplyOptions {
 };
 
 Status apply(const ApplyOptions& options) {
-  const Text module = argumentText(options.module, "the module");
+  const Text module = moduleName(options.module);
   KOBModeleTraduction model;
   load(model, options.file);
   requireLanguage(model, options.langue);

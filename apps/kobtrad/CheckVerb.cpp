@@ -5,6 +5,7 @@
 #include "ModelFile.h"
 #include "Verb.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace kob::command {
@@ -16,28 +17,31 @@ struct CheckOptions {
   bool isQuiet = false;
 };
 
-/// Here what is wrong with a file is what was asked for, so it is printed and not told.
-Status checkFile(const std::string& file, bool isQuiet) {
+struct Verdict {
+  Status status = Status::Fine;
+  std::string lines;
+};
+
+/// Here what is wrong with a file is what was asked for: it goes to standard output.
+Verdict checkFile(const std::string& file) {
   KOBModeleTraduction model;
   try {
     load(model, file);
   } catch (const ReadError& error) {
-    print(std::string(error.what()) + "\n");
-    return Status::Unreadable;
+    return {Status::Unreadable, std::string(error.what()) + "\n"};
   }
-  const std::vector<Finding> findings = check(model);
-  for (const Finding& finding : findings) {
-    print(file + ": " + (finding.path.empty() ? "" : finding.path + ": ") + finding.problem + "\n");
+  Verdict verdict;
+  for (const Finding& finding : check(model)) {
+    verdict.status = Status::Findings;
+    verdict.lines += file + ": " + (finding.path.empty() ? "" : finding.path + ": ") + finding.problem + "\n";
   }
-  if (!findings.empty()) {
-    return Status::Findings;
-  }
-  if (!isQuiet) {
+  if (verdict.status == Status::Fine) {
     const Coverage coverage = coverageOf(model);
-    print(file + ": fine, " + std::to_string(coverage.texts) + " texts in " + std::to_string(coverage.cells) +
-          " cells, " + std::to_string(coverage.languages.size()) + " languages\n");
+    verdict.lines = file + ": fine, " + std::to_string(coverage.texts) + " texts in " +
+                    std::to_string(coverage.cells) + " cells, " + std::to_string(coverage.languages.size()) +
+                    " languages\n";
   }
-  return Status::Fine;
+  return verdict;
 }
 
 Status checkAll(const CheckOptions& options) {
@@ -45,8 +49,14 @@ Status checkAll(const CheckOptions& options) {
   Progress progress(options.files.size());
   for (const std::string& file : options.files) {
     progress.step(file);
-    const Status status = checkFile(file, options.isQuiet);
-    worst = std::max(worst, status);
+    const Verdict verdict = checkFile(file);
+    worst = std::max(worst, verdict.status);
+    if (verdict.status != Status::Fine || !options.isQuiet) {
+      // Both streams may be one terminal.
+      progress.clear();
+      print(verdict.lines);
+      flushPrinted();
+    }
   }
   return worst;
 }

@@ -32,7 +32,7 @@ constexpr const char* footer =
     "  kobtrad harvest order.ui -o app.trad\n"
     "  kobtrad set app.trad 'Order\\BtnAccept' 2 '&Accept' --in-place\n"
     "  kobtrad apply order.ui app.trad --lang 2 --png order-en.png\n"
-    "  kobtrad VERB --help            all about one verb";
+    "  kobtrad VERB --help            # all about one verb";
 
 bool hasVerb(const CLI::App& command, const std::string& name) {
   return !command.get_subcommands([&name](const CLI::App* verb) { return verb->get_name() == name; }).empty();

@@ -42,7 +42,7 @@ class Harvest {
   explicit Harvest(const HarvestOptions& options) : options_(options) {}
 
   Status run() {
-    const Text module = argumentText(options_.module, "the module");
+    const Text module = moduleName(options_.module);
     // All of them, before somebody answers questions in vain.
     loadForms();
     KOBModeleTraduction model;

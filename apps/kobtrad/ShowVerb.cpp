@@ -35,7 +35,7 @@ void addShow(CLI::App& command, Job& job) {
               "  kobtrad show app.trad\n"
               "  kobtrad show app.trad --lang 2 --lang 3\n"
               "  kobtrad show app.trad --path 'Order\\GrpCustomer'\n"
-              "  kobtrad show app.trad --lang 3 --missing      what is left to translate\n"
+              "  kobtrad show app.trad --lang 3 --missing      # what is left to translate\n"
               "In the texts ⏎ is a line break, ⇥ a tab, · a blank at either end, and – alone means that the\n"
               "text is not translated.");
   const auto options = std::make_shared<ShowOptions>();

@@ -86,6 +86,15 @@ Text argumentText(std::string_view bytes, const char* which) {
   return std::move(*text);
 }
 
+Text moduleName(std::string_view bytes) {
+  Text name = argumentText(bytes, "the module");
+  if (name.find(u'\\') != Text::npos) {
+    // The component would take it for the name of one cell, which no path could spell.
+    throw UsageError("a module is one name, without a \"\\\"");
+  }
+  return name;
+}
+
 std::string visible(TextView text) {
   const std::size_t first = text.find_first_not_of(u' ');
   const std::size_t last = text.find_last_not_of(u' ');

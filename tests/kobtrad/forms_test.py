@@ -4,6 +4,7 @@
 
 import os
 import pty
+import re
 import select
 import subprocess
 
@@ -107,6 +108,10 @@ refused    Commande\\ChkUrgent  Caption  "Livraison urgente" -> "Livraison rapid
         self.kobtrad("harvest", harness.FORM, "-o", "app.trad", "--module", "Ventes")
         self.assertEqual(self.kobtrad("get", "app.trad", "Ventes\\Commande", 1).out, "Commande\n")
 
+    def test_a_module_is_one_name(self):
+        self.kobtrad("harvest", harness.FORM, "-o", "app.trad", "--module", "Ventes\\Nord", code=2)
+        self.assertEqual(self.names(), [])
+
     def test_two_forms_of_one_name_are_told(self):
         other = self.form("other.ui", **{"&amp;Annuler": "&amp;Fermer"})
         done = self.kobtrad("harvest", harness.FORM, other, "-o", "app.trad", code=1)
@@ -177,11 +182,12 @@ class Apply(harness.CommandTest):
 class Terminal(harness.CommandTest):
     """The command with a terminal for its input and its messages."""
 
-    def onTerminal(self, *arguments, typed=""):
-        """The exit code and what a person saw of the messages."""
+    def onTerminal(self, *arguments, typed="", isWhole=False):
+        """The exit code and what a person saw of the messages, or of everything."""
         master, slave = pty.openpty()
         with subprocess.Popen([harness.command(), *map(str, arguments)], cwd=self.folder, stdin=slave,
-                              stdout=subprocess.PIPE, stderr=slave, env=harness.environment()) as running:
+                              stdout=slave if isWhole else subprocess.PIPE, stderr=slave,
+                              env=harness.environment()) as running:
             os.close(slave)
             os.write(master, typed.encode())
             seen = b""
@@ -193,7 +199,8 @@ class Terminal(harness.CommandTest):
                 if not piece:
                     break
                 seen += piece
-            running.stdout.read()
+            if not isWhole:
+                running.stdout.read()
             code = running.wait(60)
         os.close(master)
         return code, seen.decode()
@@ -218,6 +225,13 @@ class Terminal(harness.CommandTest):
         self.assertEqual(code, 0)
         self.assertIn("[######..................] 2 of 4  f1.ui", seen)
         self.assertTrue(seen.endswith("\r\033[K"), repr(seen[-40:]))
+
+    def test_the_bar_makes_room_for_what_is_printed(self):
+        self.harvested("a.trad")
+        self.harvested("b.trad")
+        code, seen = self.onTerminal("check", "a.trad", "b.trad", isWhole=True)
+        self.assertEqual(code, 0)
+        self.assertEqual(re.findall(r"\r\033\[K([ab].trad: fine)", seen), ["a.trad: fine", "b.trad: fine"], repr(seen))
 
     def test_there_is_no_bar_without_a_terminal(self):
         forms = [self.form(f"f{i}.ui", Commande=f"Facture{i}") for i in range(4)]
