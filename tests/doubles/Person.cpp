@@ -151,6 +151,7 @@ Text Person::text(TextView textBox, std::int32_t index) const {
 
 std::vector<Text> Person::texts(TextView textBoxes) const {
   std::vector<Text> found;
+  found.reserve(longestArray);
   for (std::int32_t i = 0; i < longestArray; ++i) {
     found.push_back(text(textBoxes, i));
   }
