@@ -2,6 +2,7 @@
 #include "ModelVocabulary.h"
 
 #include <unordered_map>
+#include <utility>
 
 namespace kob::test {
 namespace {
@@ -121,18 +122,20 @@ TEST_F(CompletingModels, EntriesThatShareAListAreCompletedTogether) {
   EXPECT_EQ(texts(second), (Texts{u"a", u"2", u"3"}));
 }
 
-TEST_F(CompletingModels, DifferentTextsOfOneHashAreKeptApart) {
+/// Two texts that the hash does not tell apart.
+std::pair<Text, Text> textsOfOneHash() {
   std::unordered_map<std::uint32_t, Text> known;
-  Text first;
-  Text second;
-  for (int i = 0; second.empty(); ++i) {
+  for (int i = 0;; ++i) {
     const Text text = decimal(i);
     const auto [place, isNew] = known.emplace(hashUpper(text), text);
     if (!isNew) {
-      first = place->second;
-      second = text;
+      return {place->second, text};
     }
   }
+}
+
+TEST_F(CompletingModels, DifferentTextsOfOneHashAreKeptApart) {
+  const auto [first, second] = textsOfOneHash();
   const CellRef firstGap = add({first, u"", u""});
   const CellRef secondGap = add({second, u"", u""});
   add({second, u"second", u""});
@@ -140,6 +143,15 @@ TEST_F(CompletingModels, DifferentTextsOfOneHashAreKeptApart) {
   complete();
   EXPECT_EQ(texts(firstGap)[1], u"first");
   EXPECT_EQ(texts(secondGap)[1], u"second");
+}
+
+TEST_F(CompletingModels, DifferentTextsOfOneHashAreKeptApartWhenTheFirstHasNoGap) {
+  const auto [first, second] = textsOfOneHash();
+  add({first, u"first", u"x"});
+  const CellRef secondGap = add({second, u"", u""});
+  add({second, u"second", u""});
+  complete();
+  EXPECT_EQ(texts(secondGap), (Texts{second, u"second", u""}));
 }
 
 TEST_F(CompletingModels, AShortListFailsInItsTurnAndKeepsWhatItHasRoomFor) {

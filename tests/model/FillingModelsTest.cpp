@@ -288,6 +288,12 @@ TEST_F(Filling, AShortSourceIsReadOnlyWhereThereIsAGap) {
   EXPECT_EQ(texts(own), (Texts{u"a", u"2", u"x", u"y"}));
 }
 
+TEST_F(Filling, ASourceWithoutAListIsNotMissedWhereThereIsNoGap) {
+  message(model.Racine(), u"m", {u"a", u"x", u"y", u"z"});
+  message(other.Racine(), u"m", {})->Traduction()->setColTraduction(nullptr);
+  EXPECT_EQ(failureOf([&] { fill(); }), std::nullopt);
+}
+
 TEST_F(Filling, AShortSourceFailsAtAGap) {
   message(model.Racine(), u"m", {u"a", u"", u"x", u""});
   message(other.Racine(), u"m", {u"b", u"2", u"3"});
