@@ -94,6 +94,7 @@ std::unique_ptr<CLI::App> makeCommand(Job& job) {
   addShow(*command, job);
   addGet(*command, job);
   addSet(*command, job);
+  addEdit(*command, job);
   addApply(*command, job);
   addLanguages(*command, job);
   addStats(*command, job);

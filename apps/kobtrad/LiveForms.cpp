@@ -2,6 +2,7 @@
 #include "LiveForms.h"
 
 #include "ModelFile.h"
+#include "Verb.h"
 
 #include <apps/uiform/UiForm.h>
 
@@ -19,10 +20,22 @@ void dropRemarks(QtMsgType type, const QMessageLogContext&, const QString& text)
   }
 }
 
+bool hasScreen() {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+  return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || qEnvironmentVariableIsSet("DISPLAY") ||
+         qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+#else
+  return true;
+#endif
+}
+
 }  // namespace
 
-Toolkit::Toolkit() {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+Toolkit::Toolkit(Screen screen) {
+  if (screen == Screen::Needed && !hasScreen()) {
+    throw UsageError("this verb needs a screen, and there is none (DISPLAY is not set)");
+  }
+  if (screen == Screen::None && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
   qInstallMessageHandler(dropRemarks);

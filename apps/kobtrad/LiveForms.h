@@ -10,11 +10,14 @@
 
 namespace kob::command {
 
-/// The toolkit, for as long as a verb needs live forms. It works without a screen unless QT_QPA_PLATFORM says
-/// otherwise, and what it remarks about forms is dropped.
+/// The toolkit, for as long as a verb needs live forms. What it remarks about forms is dropped.
 class Toolkit {
  public:
-  Toolkit();
+  /// Whether somebody is going to look. Without, it works where there is no screen, unless QT_QPA_PLATFORM
+  /// says otherwise; a screen that is needed and not there is a UsageError.
+  enum class Screen { None, Needed };
+
+  explicit Toolkit(Screen screen = Screen::None);
 
  private:
   int argc_ = 1;

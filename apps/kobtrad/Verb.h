@@ -63,6 +63,7 @@ void addGet(CLI::App& command, Job& job);
 void addSet(CLI::App& command, Job& job);
 void addLanguages(CLI::App& command, Job& job);
 void addStats(CLI::App& command, Job& job);
+void addEdit(CLI::App& command, Job& job);
 void addCheck(CLI::App& command, Job& job);
 void addTestLanguage(CLI::App& command, Job& job);
 void addClearLanguage(CLI::App& command, Job& job);

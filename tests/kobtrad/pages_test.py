@@ -9,7 +9,7 @@ import unittest
 
 import harness
 
-EVERY_VERB = ("harvest", "show", "get", "set", "apply", "languages", "stats", "check", "merge",
+EVERY_VERB = ("harvest", "show", "get", "set", "edit", "apply", "languages", "stats", "check", "merge",
               "complete", "test-language", "clear-language")
 
 
