@@ -7,7 +7,9 @@
 #include "Messages.h"
 #include "ToolsPage.h"
 
+#include <kobtraduction/base/Failure.h>
 #include <kobtraductionqt/KOBTraductionQt.h>
+#include <kobtraductionqt/QtWidgetSet.h>
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -76,12 +78,30 @@ Filled Demo::fillFrom(TextTable table, Fill what) {
   return filled;
 }
 
+bool Demo::save(const QString& file) {
+  // The editor saves there, too.
+  model_.setFichier(qt::toText(file));
+  return model_.Save(model_.Fichier());
+}
+
+void Demo::translate() {
+  qt::QtWidgetSet widgets;
+  try {
+    model_.Show(0);
+  } catch (const Failure& failure) {
+    window_.tell(QString::fromLatin1(failure.what()));
+  }
+  switcher_.refresh();
+  refresh();
+}
+
 void Demo::connectWindow() {
   connect(&switcher_, &qt::LanguageSwitcher::languageChanged, this, [this](int language) {
     showMessages();
     window_.checkLanguage(language);
   });
   connect(&window_, &MainWindow::languageChosen, &switcher_, &qt::LanguageSwitcher::setLanguage);
+  connect(&window_, &MainWindow::translationRequested, this, &Demo::translate);
   connect(&window_, &MainWindow::lendRequested, this, &Demo::lend);
   connect(&window_, &MainWindow::returnRequested, this, &Demo::takeBack);
   connect(&window_, &MainWindow::extensionRequested, this, [this] { extend(window_.tools().chosenTool()); });

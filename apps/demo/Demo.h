@@ -37,7 +37,7 @@ class Demo final : public QObject {
   /// Fills in the other languages; from then on the forms can be switched.
   Filled fillFrom(TextTable table, Fill what = Fill::All);
   /// False when the file cannot be written.
-  bool save(const QString& file) { return model_.Save(qt::toText(file)); }
+  bool save(const QString& file);
 
   KOBModeleTraduction& model() { return model_; }
   qt::LanguageSwitcher& switcher() { return switcher_; }
@@ -56,6 +56,8 @@ class Demo final : public QObject {
   void remind(int tool);
   void editMember(int member);
   void refresh();
+  /// Opens the editor on the model, and shows what was changed there.
+  void translate();
   QString message(const char* name) const;
 
   SampleData data_;

@@ -123,6 +123,8 @@ void MainWindow::makeViewMenu() {
   menu->addSeparator();
   command(menu, "mnuActualiser", u"A&ctualiser"_s, &MainWindow::refreshRequested)
       ->setShortcut(QKeySequence(u"F5"_s));
+  command(menu, "mnuTraduire", u"&Traduire…"_s, &MainWindow::translationRequested)
+      ->setShortcut(QKeySequence(u"Ctrl+E"_s));
 }
 
 void MainWindow::makeLanguageMenu() {

@@ -37,6 +37,7 @@ class MainWindow final : public QMainWindow {
 
  signals:
   void languageChosen(int number);
+  void translationRequested();
   /// 0 a week-end, 1 a week, 2 a month.
   void lendRequested(int duration);
   void returnRequested();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/model/ModelVocabulary.h"
+#include "tests/qt/demo/QtPrinting.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,18 +20,12 @@
 
 #include <deque>
 #include <functional>
-#include <ostream>
 #include <stdexcept>
 #include <string>
 
 class QLineEdit;
 class QListView;
 class QPlainTextEdit;
-
-/// For messages of tests.
-inline void PrintTo(const QString& text, std::ostream* out) {
-  *out << '"' << text.toStdString() << '"';
-}
 
 /// Somebody in front of the editor's real windows.
 namespace kob::qt::testing {
