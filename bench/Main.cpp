@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "Report.h"
+#include "SavedForms.h"
 #include "Suite.h"
 
 #include <benchmark/benchmark.h>
@@ -9,6 +10,7 @@
 #include <exception>
 #include <iostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 int main(int argc, char* argv[]) {
@@ -27,7 +29,13 @@ int main(int argc, char* argv[]) {
   options.add_flag("--gate", gate, "End with status 1 when a target is exceeded by more than a quarter");
   options.footer("Options of Google Benchmark are taken too, for example --benchmark_filter=Apply");
   options.allow_extras();
+  // Only for figures of memory, see growthOf().
+  std::pair<int, std::string> grow{-1, {}};
+  options.add_option("--grow", grow)->group("");
   CLI11_PARSE(options, argc, argv);
+  if (grow.first >= 0) {
+    return bench::grow(grow.first, grow.second);
+  }
   if (settings.quick && options.count("--rounds") == 0) {
     settings.rounds = 7;
   }

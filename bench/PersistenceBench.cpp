@@ -57,28 +57,16 @@ class Files {
 
   qint64 modelSize() const { return bytes_.size(); }
 
-  void loadModel() {
-    loaded_ = std::make_unique<kob::KOBModeleTraduction>();
-    require(loaded_->Load(path("model.trad").toStdU16String()), "the model cannot be loaded");
-  }
+  void loadModel() { loaded_ = bench::loadModel(path("model.trad")); }
   void walkModel() {
     loadModel();
     read_ = readAll(*loaded_);
   }
-  void findModel() {
-    walkModel();
-    findAll(*loaded_);
-  }
-  void loadLists() {
-    QFile file(path("model.lists"));
-    require(file.open(QIODevice::ReadOnly), "the lists cannot be read");
-    const QByteArray bytes = file.readAll();
-    QDataStream stream(bytes);
-    stream >> loadedLists_;
-  }
-  void loadXml() {
-    loadedXml_ = std::make_unique<pugi::xml_document>();
-    require(loadedXml_->load_file(path("model.xml").toUtf8().constData()), "the XML file cannot be read");
+  void loadLists() { loadedLists_ = bench::loadLists(path("model.lists")); }
+  void loadXml() { loadedXml_ = bench::loadXml(path("model.xml")); }
+  double growth(Loaded what) const {
+    constexpr const char* names[] = {"model.trad", "model.trad", "model.lists", "model.xml"};
+    return static_cast<double>(growthOf(what, path(names[static_cast<int>(what)])));
   }
   /// One read into memory, and one copy of it.
   void readFlat() {
@@ -191,17 +179,14 @@ void contestOfFlushing(Files& files, const SavedForms& forms, const std::functio
 
 void contestOfBytes(Files& files, const SavedForms& forms, const std::function<void(Contest&)>& run) {
   Contest contest("Bytes a text", std::to_string(forms.entries()));
-  const auto add = [&](const char* name, Step step) {
-    contest.addBytes(name, [&files, &forms, step] {
-      files.forget();
-      return static_cast<double>(growthOf([&] { (files.*step)(); })) / forms.texts();
-    });
+  const auto add = [&](const char* name, Loaded what) {
+    contest.addBytes(name, [&files, &forms, what] { return files.growth(what) / forms.texts(); });
   };
   contest.addBytes("file", [&] { return static_cast<double>(files.modelSize()) / forms.texts(); });
-  add("memory, every text read", &Files::walkModel);
-  add("memory, and all found by path", &Files::findModel);
-  add("memory, QDataStream of lists", &Files::loadLists);
-  add("memory, pugixml", &Files::loadXml);
+  add("memory, every text read", Loaded::Model);
+  add("memory, and all found by path", Loaded::Found);
+  add("memory, QDataStream of lists", Loaded::Lists);
+  add("memory, pugixml", Loaded::Xml);
   contest.expect({"file", "", 64, 50});
   contest.expect({"memory, every text read", "", 120, 100});
   contest.expect({"memory, and all found by path", "", 120, 100});

@@ -3,15 +3,15 @@
 
 #include "Words.h"
 
-#include <kobtraduction/engine/HostObject.h>
+#include <kobpersistence/KOBPersistence.h>
 
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QFile>
+#include <QProcess>
 #include <QString>
 
 #include <pugixml.hpp>
-
-#include <malloc.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -41,6 +41,18 @@ QString controlName(int entry) {
 
 kob::Text utf16(const QString& text) {
   return text.toStdU16String();
+}
+
+/// Bytes of this process that it shares with nobody.
+std::size_t privateBytes() {
+  std::ifstream rollup("/proc/self/smaps_rollup");
+  std::size_t bytes = 0;
+  for (std::string line; std::getline(rollup, line);) {
+    if (line.starts_with("Private_Clean:") || line.starts_with("Private_Dirty:")) {
+      bytes += std::strtoull(line.c_str() + line.find(':') + 1, nullptr, 10) * 1024;
+    }
+  }
+  return bytes;
 }
 
 }  // namespace
@@ -158,47 +170,72 @@ void findAll(const kob::KOBModeleTraduction& model) {
   }
 }
 
-std::size_t privateBytes() {
-  std::ifstream rollup("/proc/self/smaps_rollup");
-  std::size_t bytes = 0;
-  for (std::string line; std::getline(rollup, line);) {
-    if (line.starts_with("Private_Clean:") || line.starts_with("Private_Dirty:")) {
-      bytes += std::strtoull(line.c_str() + line.find(':') + 1, nullptr, 10) * 1024;
-    }
+std::unique_ptr<kob::KOBModeleTraduction> loadModel(const QString& file) {
+  auto model = std::make_unique<kob::KOBModeleTraduction>();
+  if (!model->Load(file.toStdU16String())) {
+    throw std::runtime_error("the model cannot be loaded");
   }
-  return bytes;
+  return model;
 }
 
-std::size_t growthOf(const std::function<void()>& grow) {
-  int ends[2];
-  if (pipe(ends) != 0) {
-    return 0;
+QList<QStringList> loadLists(const QString& file) {
+  QFile input(file);
+  if (!input.open(QIODevice::ReadOnly)) {
+    throw std::runtime_error("the lists cannot be read");
   }
-  const pid_t child = fork();
-  if (child == 0) {
-    // What the parent's memory has free is not to be filled first.
-    malloc_trim(0);
-    const std::size_t before = privateBytes();
-    std::size_t growth = 0;
-    try {
-      grow();
-      growth = privateBytes() - before;
-    } catch (...) {
-      growth = 0;
-    }
-    static_cast<void>(!write(ends[1], &growth, sizeof growth));
-    _exit(0);
+  const QByteArray bytes = input.readAll();
+  QDataStream stream(bytes);
+  QList<QStringList> lists;
+  stream >> lists;
+  return lists;
+}
+
+std::unique_ptr<pugi::xml_document> loadXml(const QString& file) {
+  auto document = std::make_unique<pugi::xml_document>();
+  if (!document->load_file(file.toUtf8().constData())) {
+    throw std::runtime_error("the XML file cannot be read");
   }
-  close(ends[1]);
-  std::size_t growth = 0;
-  if (child < 0 || read(ends[0], &growth, sizeof growth) != static_cast<ssize_t>(sizeof growth)) {
-    growth = 0;
+  return document;
+}
+
+int grow(int what, const std::string& file) {
+  const QString name = QString::fromStdString(file);
+  const std::size_t before = privateBytes();
+  std::unique_ptr<kob::KOBModeleTraduction> model;
+  QList<QStringList> lists;
+  std::unique_ptr<pugi::xml_document> xml;
+  std::size_t read = 0;
+  switch (static_cast<Loaded>(what)) {
+    case Loaded::Model:
+    case Loaded::Found:
+      kob::usePersistence();
+      model = loadModel(name);
+      read = readAll(*model);
+      if (static_cast<Loaded>(what) == Loaded::Found) {
+        findAll(*model);
+      }
+      break;
+    case Loaded::Lists:
+      lists = loadLists(name);
+      read = static_cast<std::size_t>(lists.size());
+      break;
+    case Loaded::Xml:
+      xml = loadXml(name);
+      read = xml->first_child() ? 1 : 0;
+      break;
   }
-  close(ends[0]);
-  if (child > 0) {
-    waitpid(child, nullptr, 0);
+  std::printf("%zu\n", privateBytes() - before);
+  return read > 0 ? 0 : 2;
+}
+
+std::size_t growthOf(Loaded what, const QString& file) {
+  QProcess process;
+  process.start(QCoreApplication::applicationFilePath(),
+                {QStringLiteral("--grow"), QString::number(static_cast<int>(what)), file});
+  if (!process.waitForFinished(-1) || process.exitCode() != 0) {
+    throw std::runtime_error("the process that loads for a figure of memory failed");
   }
-  return growth;
+  return process.readAllStandardOutput().trimmed().toULongLong();
 }
 
 }  // namespace bench

@@ -8,8 +8,8 @@
 #include <QStringList>
 
 #include <cstddef>
-#include <functional>
 #include <memory>
+#include <string>
 
 namespace pugi {
 class xml_document;
@@ -48,10 +48,19 @@ std::size_t readAll(const kob::KOBModeleTraduction& model);
 /// Finds every cell by its name, so that all tables of names are made.
 void findAll(const kob::KOBModeleTraduction& model);
 
-/// Bytes of this process that it shares with nobody.
-std::size_t privateBytes();
+// Loading, in each of the ways. Throws when the file cannot be read.
 
-/// Calls `grow` in a process of its own and tells by how many private bytes that grew; 0 when it failed.
-std::size_t growthOf(const std::function<void()>& grow);
+std::unique_ptr<kob::KOBModeleTraduction> loadModel(const QString& file);
+QList<QStringList> loadLists(const QString& file);
+std::unique_ptr<pugi::xml_document> loadXml(const QString& file);
+
+/// What is loaded for a figure of memory: `Found` is a model all of whose cells were looked up.
+enum class Loaded { Model, Found, Lists, Xml };
+
+/// By how many bytes that it shares with nobody a process grows when it loads a file and reads all of it. It
+/// is a process of its own, started by the option --grow, so that nothing fills what others left.
+std::size_t growthOf(Loaded what, const QString& file);
+/// What that process does: loads, and prints the figure. Its exit status.
+int grow(int what, const std::string& file);
 
 }  // namespace bench
