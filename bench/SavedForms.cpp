@@ -132,13 +132,13 @@ QByteArray SavedForms::flatBytes() const {
 
 std::size_t readAll(const kob::KOBModeleTraduction& model) {
   std::size_t units = 0;
-  std::vector<std::shared_ptr<kob::KOBCellTraduction>> open{model.Racine()};
+  std::vector<const kob::KOBCellTraduction*> open{model.Racine().get()};
   while (!open.empty()) {
-    const auto cell = std::move(open.back());
+    const kob::KOBCellTraduction& cell = *open.back();
     open.pop_back();
-    units += cell->nom().size();
-    if (cell->TypeFeuille() == 2) {
-      for (const auto& entry : *cell->ColTraduction()) {
+    units += cell.nom().size();
+    if (cell.TypeFeuille() == 2) {
+      for (const auto& entry : *cell.ColTraduction()) {
         const auto texts = entry->ColTraduction();
         for (std::int32_t language = 1; language <= texts->Count(); ++language) {
           const kob::TextView text = texts->Item(language);
@@ -147,9 +147,9 @@ std::size_t readAll(const kob::KOBModeleTraduction& model) {
         }
       }
     }
-    if (cell->TypeCell() == 1) {
-      for (const auto& child : *cell->ColCell()) {
-        open.push_back(child);
+    if (cell.TypeCell() == 1) {
+      for (const auto& child : *cell.ColCell()) {
+        open.push_back(child.get());
       }
     }
   }
