@@ -104,20 +104,6 @@ TEST_F(EditorPosition, ResettingTheWidthLeavesTheLeft) {
   EXPECT_THAT(lefts(), ElementsAre(1, 1, 1.5, 1, 1, 1));
 }
 
-/// A list that is one item longer than the language count shows every write: each puts the last language's
-/// factor behind the item that was there already.
-TEST_F(EditorPosition, ResettingDoesNotWriteASecondTimeThroughTheSlider) {
-  cell->ColLeft()->Add(Factor(7));
-  cell->ChangeLeft(1.5, 6);
-  edit(u"App\\c", [this](Person& person) {
-    Global_Util::setNbLangues(7);
-    cell->ColLeft()->Add(Factor(9));
-    Global_Util::setNbLangues(6);
-    person.press(u"bl1", 5);
-  });
-  EXPECT_THAT(lefts(), ElementsAre(1, 1, 1, 1, 1, 1, 7, 9));
-}
-
 TEST_F(EditorPosition, AfterAResetTheSliderWritesAgain) {
   edit(u"App\\c", [](Person& person) {
     person.press(u"bl1", 0);
