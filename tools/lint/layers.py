@@ -7,7 +7,7 @@
   kobpersistence/ includes the standard library, itself and kobtraduction/; of the operating system only in the files
   that are named after it (Posix*, Win32*)
   bindings/ include kobtraduction/ and the toolkit; apps/ may include both; nobody includes apps/
-  an installed header includes no internal one, and outside the component nobody but tests/ and fuzz/ does
+  an installed header includes no internal one, and outside its library only tests/, fuzz/ and bench/ do
   what is installed is meant to be: it exports something, or an installed header includes it
 """
 
@@ -61,7 +61,7 @@ def complaint(path, header, internal):
     here = PurePosixPath(path).parts
     if header.startswith("apps/") and here[0] not in ("apps", "tests"):
         return "apps/ is included by nobody else"
-    if header in internal and here[0] not in (PurePosixPath(header).parts[0], "tests", "fuzz"):
+    if header in internal and here[0] not in (PurePosixPath(header).parts[0], "tests", "fuzz", "bench"):
         return f"{header} is internal to its library"
     if here[0] == "kobpersistence" and header not in STANDARD and not header.startswith(SERVICE_MAY_INCLUDE) \
             and not here[-1].startswith(("Posix", "Win32")):
