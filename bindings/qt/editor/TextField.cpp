@@ -32,7 +32,8 @@ QSize TextField::minimumSizeHint() const {
 }
 
 QSize TextField::sizeForLines(int lines) const {
-  const double margins = 2 * (document()->documentMargin() + frameWidth());
+  // With less below its last line, a document that fits is scrolled all the same.
+  const double margins = 2 * (document()->documentMargin() + frameWidth()) + fontMetrics().leading() + 4;
   return {0, static_cast<int>(std::ceil(lines * fontMetrics().lineSpacing() + margins))};
 }
 
