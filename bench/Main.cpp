@@ -46,6 +46,7 @@ int main(int argc, char* argv[]) {
   bench::addHarvesting(suite);
   bench::addControlPaths(suite);
   bench::addLookup(suite);
+  bench::addEditing(suite);
   bench::addPersistence(suite);
   bench::addMerging(suite);
 

@@ -42,6 +42,7 @@ void addApplying(Suite& suite);
 void addHarvesting(Suite& suite);
 void addControlPaths(Suite& suite);
 void addLookup(Suite& suite);
+void addEditing(Suite& suite);
 void addPersistence(Suite& suite);
 void addMerging(Suite& suite);
 
