@@ -97,7 +97,7 @@ std::vector<Message> MergeModels::messages(Version version, int language) const 
 }
 
 MergeRecords::MergeRecords(const MergeModels& models, MergeModels::Version version)
-    : models_(models), version_(version), records_(static_cast<std::size_t>(models.entries())) {
+    : version_(version), records_(static_cast<std::size_t>(models.entries())) {
   for (int i = 0; i < models.entries(); ++i) {
     Record& record = records_[static_cast<std::size_t>(i)];
     record.path = utf16(models.path(i));

@@ -57,7 +57,6 @@ class MergeRecords {
   void restore();
 
  private:
-  const MergeModels& models_;
   MergeModels::Version version_;
   std::vector<Record> records_;
 };

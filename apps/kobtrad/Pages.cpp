@@ -82,10 +82,10 @@ std::string describedOption(const CLI::Option& option) {
 }
 
 /// Examples with the sentences around them: lines that begin with blanks are examples.
-std::string describedFooter(const std::string& footer) {
+std::string describedFooter(const std::string& text) {
   std::string page;
   bool isExample = false;
-  std::istringstream lines(footer);
+  std::istringstream lines(text);
   for (std::string line; std::getline(lines, line);) {
     const bool isNowExample = line.starts_with("  ");
     if (isNowExample != isExample) {

@@ -151,7 +151,13 @@ class Listing {
       for (const std::int32_t langue : options_.languages) {
         const std::string factors = factorText(cell.ColLeft().get(), "left", langue) +
                                     factorText(cell.ColWidth().get(), "width", langue);
-        text_ += factors.empty() ? "" : margin + "Factors  " + std::to_string(langue) + factors + "\n";
+        if (!factors.empty()) {
+          text_.append(margin)
+              .append("Factors  ")
+              .append(std::to_string(langue))
+              .append(factors)
+              .append("\n");
+        }
       }
     }
   }

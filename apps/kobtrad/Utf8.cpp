@@ -98,26 +98,26 @@ Text moduleName(std::string_view bytes) {
 std::string visible(TextView text) {
   const std::size_t first = text.find_first_not_of(u' ');
   const std::size_t last = text.find_last_not_of(u' ');
-  Text shown;
+  Text result;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char16_t unit = text[i];
     if (unit == u' ') {
-      shown += first == TextView::npos || i < first || i > last ? u'\u00B7' : u' ';
+      result += first == TextView::npos || i < first || i > last ? u'\u00B7' : u' ';
     } else if (unit == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') {
       continue;
     } else if (unit == u'\n' || unit == u'\r') {
-      shown += u'\u23CE';
+      result += u'\u23CE';
     } else if (unit == u'\t') {
-      shown += u'\u21E5';
+      result += u'\u21E5';
     } else if (unit < 0x20 || (unit >= 0x7F && unit < 0xA0)) {
       for (const char letter : numbered("<U+%04X>", unit)) {
-        shown += static_cast<char16_t>(letter);
+        result += static_cast<char16_t>(letter);
       }
     } else {
-      shown += unit;
+      result += unit;
     }
   }
-  return toUtf8(shown);
+  return toUtf8(result);
 }
 
 std::string jsonString(std::string_view utf8) {

@@ -198,7 +198,7 @@ void DamagedModels::addPair(const Growth& step, int kind) {
 }
 
 CellRef DamagedModels::makeCell(const CellRef& parent, const Growth& step, int kind) {
-  const CellRef made = named(name(step.name));
+  CellRef made = named(name(step.name));
   made->setTypeFeuille(kind);
   if (kind == 1) {
     made->setTraduction(makeEntry(step.texts));

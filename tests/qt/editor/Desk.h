@@ -91,7 +91,6 @@ class Desk {
   QList<QPointer<QWidget>> known_;
   QStringList opened_;
   QTimer rescue_;
-  bool isGone_ = false;
 };
 
 /// Six languages, a model with the top-level cell "App", the editor's windows and real message boxes.

@@ -18,7 +18,7 @@ namespace {
 
 class PictureRun {
  public:
-  explicit PictureRun(QDir folder) : folder_(std::move(folder)) { fillSample(model_); }
+  explicit PictureRun(const QDir& folder) : folder_(folder) { fillSample(model_); }
 
   int run() {
     editor("empty", 0, u"");
