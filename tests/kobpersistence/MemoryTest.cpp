@@ -17,7 +17,8 @@ std::atomic<std::size_t> most = 0;
 
 }  // namespace
 
-void* operator new(std::size_t size) {
+// Not inlined: the compiler would see memory of malloc() given to delete, or the other way round.
+__attribute__((noinline)) void* operator new(std::size_t size) {
   void* const block = std::malloc(size);
   if (block == nullptr) {
     throw std::bad_alloc();
@@ -29,7 +30,7 @@ void* operator new(std::size_t size) {
   return block;
 }
 
-void operator delete(void* block) noexcept {
+__attribute__((noinline)) void operator delete(void* block) noexcept {
   inUse -= malloc_usable_size(block);
   std::free(block);
 }

@@ -15,9 +15,9 @@ class OtherReaderTest : public ServiceTest {
  public:
   /// What the other reader prints for these files, a line each.
   std::vector<std::string> otherReader(const std::vector<std::string>& names) const {
-    std::string command = std::string(KOB_PYTHON) + " " + KOB_OTHER_READER;
+    std::string command(KOB_PYTHON " " KOB_OTHER_READER);
     for (const std::string& name : names) {
-      command += " " + path(name).string();
+      command.append(" ").append(path(name).string());
     }
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> out(popen(command.c_str(), "r"), pclose);
     std::string text;
