@@ -20,3 +20,11 @@ find_program(KOB_CCACHE ccache)
 if(KOB_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${KOB_CCACHE}")
 endif()
+
+# kob_precompile(TARGET header...): headers that most of its files include, compiled once. A file includes what it
+# needs all the same: the preset no-gui and the linter compile without.
+function(kob_precompile target)
+  if(KOB_PCH)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()

@@ -31,6 +31,11 @@ ALONE_ONLY = "-misc-definitions-in-headers,-bugprone-suspicious-include"
 def flags_of(entry):
     """How a file is compiled, without the compiler's name and the file's own."""
     words = shlex.split(entry["command"])
+    # Precompiled headers are the other compiler's, and would hide what a file forgets to include.
+    while "-include" in words:
+        at = words.index("-include")
+        del words[at:at + 2]
+    words = [word for word in words if word != "-Winvalid-pch"]
     return tuple(words[next(i for i, word in enumerate(words) if word.startswith("-")):words.index("-o")])
 
 
