@@ -16,6 +16,18 @@ if(KOB_SANITIZE)
   add_link_options(-fsanitize=${KOB_SANITIZE})
 endif()
 
+if(KOB_STATIC)
+  set(KOB_LIBRARY_KIND STATIC)
+  add_compile_definitions(KOB_STATIC)
+else()
+  set(KOB_LIBRARY_KIND SHARED)
+endif()
+if(WIN32)
+  # One file without companions; the calls with wide characters, of Windows 7 and later.
+  add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601 WINVER=0x0601)
+  add_link_options(-static)
+endif()
+
 find_program(KOB_CCACHE ccache)
 if(KOB_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${KOB_CCACHE}")
