@@ -20,7 +20,7 @@ using HostRef = std::shared_ptr<HostObject>;
 class KOB_EXPORT Value {
  public:
   Value() noexcept = default;
-  Value(bool boolean) noexcept : value_(boolean) {}
+  Value(bool truth) noexcept : value_(truth) {}
   Value(std::int32_t integer) noexcept : value_(integer) {}
   Value(double number) noexcept : value_(number) {}
   Value(Text text) noexcept : value_(std::move(text)) {}
