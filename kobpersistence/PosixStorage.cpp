@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
-#include <kobpersistence/Describing.h>
+#include <kobpersistence/FileFailure.h>
 #include <kobpersistence/PosixCalls.h>
 #include <kobpersistence/PosixFailure.h>
 
@@ -87,8 +87,7 @@ class PosixReadableFile final : public ReadableFile {
       throw fileFailure(path_, u"opened", errno);
     }
     if (!S_ISREG(status.st_mode)) {
-      throw failure({u"\"", textOf(path_), u"\" is ",
-                     S_ISDIR(status.st_mode) ? u"a folder" : u"no ordinary file", u". Choose a file."});
+      throw noFileToLoad(textOf(path_), S_ISDIR(status.st_mode));
     }
     size_ = static_cast<std::uint64_t>(status.st_size);
   }
@@ -194,10 +193,7 @@ class PosixWritableFile final : public WritableFile {
     }
     if (!open.isOpen() || (unlessInterrupted([&] { return calls_.fsync(open.get()); }) != 0 &&
                            errno != EINVAL && errno != ENOTSUP)) {
-      throw failure(
-          {u"The file \"", textOf(target_),
-           u"\" was written, but a power failure might still undo it (the system's error is number ",
-           decimal(errno), u"). Save it again."});
+      throw perhapsNotKept(textOf(target_), errno);
     }
   }
 
@@ -221,9 +217,7 @@ class PosixStorage final : public Storage {
     const std::string target = behindLinks(pathOf(name), old);
     const bool isThere = old.st_nlink > 0;
     if (isThere && !S_ISREG(old.st_mode)) {
-      throw failure({u"\"", textOf(target), u"\" is ",
-                     S_ISDIR(old.st_mode) ? u"a folder" : u"no ordinary file",
-                     u", so it cannot be written. Choose another name."});
+      throw noFileToWrite(textOf(target), S_ISDIR(old.st_mode));
     }
     if (isThere && calls_.access(target.c_str(), W_OK) != 0) {
       throw fileFailure(target, u"written", errno);
@@ -292,8 +286,7 @@ class PosixStorage final : public Storage {
         remove(scratch);
       }
     }
-    throw failure({u"The file \"", textOf(target),
-                   u"\" is being saved by another program. Try again once that has ended."});
+    throw beingSaved(textOf(target));
   }
 
   int openScratch(const std::string& scratch, int flags) {

@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "Child.h"
 #include "FailingCalls.h"
-#include "ServiceTest.h"
-
-#include <gmock/gmock.h>
+#include "FilesTest.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -13,7 +11,6 @@
 
 #include <csignal>
 #include <iostream>
-#include <thread>
 
 namespace kob::test {
 namespace {
@@ -21,34 +18,14 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
-/// A model and the files of a real folder, with all that can stand in its way.
-class PosixFilesTest : public ServiceTest {
+class PosixFilesTest : public FilesTest {
  public:
-  PosixFilesTest() {
-    grow(model, "Nouveau message\n  . \"Nouveau\"\n");
-    EXPECT_TRUE(model.Save(name("new")));
-    new_ = bytesOf(path("new"));
-    fs::remove(path("new"));
-  }
-
   static mode_t mode(const fs::path& file) {
     struct stat status = {};
     EXPECT_EQ(stat(file.c_str(), &status), 0);
     return status.st_mode & 07777;
   }
-
-  /// Saving must be refused with this in the box, and the folder stays as it is.
-  void expectRefused(std::string_view file, std::string_view what) {
-    const auto before = files();
-    EXPECT_FALSE(model.Save(name(file)));
-    EXPECT_THAT(lastNotice(), HasSubstr(std::string(what)));
-    EXPECT_EQ(files(), before);
-  }
-
-  KOBModeleTraduction model;
-  FileBytes new_;
 };
 
 TEST_F(PosixFilesTest, ASymbolicLinkIsFollowedAndStays) {
@@ -182,23 +159,12 @@ TEST_F(PosixFilesTest, AFullDeviceIsNoFileToSaveTo) {
   EXPECT_THAT(lastNotice(), HasSubstr("\"/dev/full\" is no ordinary file, so it cannot be written."));
 }
 
-TEST_F(PosixFilesTest, LitterOfAKilledSaveIsRemoved) {
-  putBytes(path(".m.trad.kobtmp"), {1, 2, 3});
-  EXPECT_TRUE(model.Save(name("m.trad"))) << lastNotice();
-  EXPECT_THAT(files(), ElementsAre("m.trad"));
-}
-
 TEST_F(PosixFilesTest, ALinkInThePlaceOfTheNewFileIsNotFollowed) {
   putBytes(path("other"), {1});
   fs::create_symlink("other", path(".m.trad.kobtmp"));
   EXPECT_TRUE(model.Save(name("m.trad"))) << lastNotice();
   EXPECT_EQ(bytesOf(path("other")), FileBytes{1});
   EXPECT_THAT(files(), ElementsAre("m.trad", "other"));
-}
-
-TEST_F(PosixFilesTest, AFolderInThePlaceOfTheNewFileIsNamed) {
-  fs::create_directory(path(".m.trad.kobtmp"));
-  expectRefused("m.trad", ".m.trad.kobtmp\" cannot be removed");
 }
 
 TEST_F(PosixFilesTest, ASaveWaitsForAnotherOneAndGivesUpAtLast) {
@@ -214,40 +180,6 @@ TEST_F(PosixFilesTest, ASaveWaitsForAnotherOneAndGivesUpAtLast) {
   EXPECT_THAT(files(), ElementsAre("m.trad"));
 }
 
-TEST_F(PosixFilesTest, SavesAtTheSameTimeDoNotMix) {
-  const Text file = name("m.trad");
-  std::vector<FileBytes> whole(3);
-  std::vector<std::thread> savers;
-  for (std::size_t i = 0; i < whole.size(); ++i) {
-    savers.emplace_back([&, i] {
-      KOBModeleTraduction own;
-      for (int k = 0; k < 2'000; ++k) {
-        message(own.Racine(), decimal(k), {Text(i + 1, u'x') + decimal(k)});
-      }
-      for (int k = 0; k < 10; ++k) {
-        EXPECT_TRUE(own.Save(file));
-      }
-      EXPECT_TRUE(own.Save(name("alone" + std::to_string(i))));
-      whole[i] = bytesOf(path("alone" + std::to_string(i)));
-    });
-  }
-  for (std::thread& saver : savers) {
-    saver.join();
-  }
-  EXPECT_THAT(whole, ::testing::Contains(bytesOf(path("m.trad"))));
-  EXPECT_THAT(files(), ElementsAre("alone0", "alone1", "alone2", "m.trad"));
-}
-
-TEST_F(PosixFilesTest, AFolderIsNoFileToSaveTo) {
-  fs::create_directory(path("m.trad"));
-  expectRefused("m.trad", "\" is a folder, so it cannot be written. Choose another name.");
-}
-
-TEST_F(PosixFilesTest, AFolderIsNoFileToLoad) {
-  EXPECT_FALSE(model.Load(name(".")));
-  EXPECT_THAT(lastNotice(), HasSubstr("\" is a folder. Choose a file."));
-}
-
 TEST_F(PosixFilesTest, APipeIsNoFileToSaveTo) {
   ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
   expectRefused("pipe", "\" is no ordinary file, so it cannot be written.");
@@ -259,63 +191,15 @@ TEST_F(PosixFilesTest, APipeIsNoFileToLoadAndKeepsNobodyWaiting) {
   EXPECT_THAT(lastNotice(), HasSubstr("\" is no ordinary file. Choose a file."));
 }
 
-TEST_F(PosixFilesTest, AFileOfMoreThanFourGigabytesIsRefusedUnread) {
-  putBytes(path("m.trad"), {1});
-  if (truncate(path("m.trad").c_str(), off_t(1) << 33) != 0) {
-    GTEST_SKIP() << "no such large file here";
-  }
-  EXPECT_FALSE(model.Load(name("m.trad")));
-  EXPECT_THAT(lastNotice(), HasSubstr("The file is larger than 4 GB, which is the most that can be loaded."));
+TEST_F(PosixFilesTest, ABackslashIsALetterOfAName) {
+  EXPECT_TRUE(model.Save(name("a\\b.trad"))) << lastNotice();
+  EXPECT_TRUE(model.Load(name("a\\b.trad"))) << lastNotice();
+  EXPECT_THAT(files(), ElementsAre("a\\b.trad"));
 }
 
 TEST_F(PosixFilesTest, AFileBelowAFileIsRefused) {
   putBytes(path("file"), {1});
   expectRefused("file/m.trad", "a part of its path is no folder");
-}
-
-TEST_F(PosixFilesTest, AnyNameThatAFileCanHaveWillDo) {
-  for (const Text& own : {Text(u"é Ὄ 😀 \\.trad"), Text(250, u'n'), Text(120, u'é')}) {
-    EXPECT_TRUE(model.Save(name("") + own)) << lastNotice();
-    EXPECT_TRUE(model.Load(name("") + own)) << lastNotice();
-    EXPECT_THAT(files(), ElementsAre(toUtf8(own)));
-    fs::remove(path(toUtf8(own)));
-  }
-}
-
-TEST_F(PosixFilesTest, ANameThatIsTooLongIsCalledSo) {
-  const std::string own(256, 'n');
-  expectRefused(own, "its name is too long. Choose a shorter one.");
-}
-
-TEST_F(PosixFilesTest, ANameWithinTheFolderOfTheProgramWillDo) {
-  const fs::path before = fs::current_path();
-  fs::current_path(path("."));
-  EXPECT_TRUE(model.Save(u"m.trad")) << lastNotice();
-  EXPECT_TRUE(model.Load(u"m.trad")) << lastNotice();
-  fs::current_path(before);
-  EXPECT_THAT(files(), ElementsAre("m.trad"));
-}
-
-/// Names that no file can have.
-void expectNoName(PosixFilesTest& test, TextView name, std::string_view what) {
-  EXPECT_FALSE(test.model.Save(name));
-  EXPECT_THAT(test.lastNotice(), HasSubstr(std::string(what)));
-  EXPECT_FALSE(test.model.Load(name));
-  EXPECT_THAT(test.lastNotice(), HasSubstr(std::string(what)));
-  EXPECT_THAT(test.files(), IsEmpty());
-}
-
-TEST_F(PosixFilesTest, NoNameIsRefused) {
-  expectNoName(*this, u"", "The file has no name. Give it one.");
-}
-
-TEST_F(PosixFilesTest, ANameWithANulIsRefused) {
-  expectNoName(*this, name("m.trad") + Text(u"\0.bak", 5), "is no name that a file can have");
-}
-
-TEST_F(PosixFilesTest, ANameWithHalfALetterIsRefused) {
-  expectNoName(*this, name("m") + Text(1, u'\xD800') + u"x", "is no name that a file can have");
-  expectNoName(*this, name("m") + Text(1, u'\xDC00'), "is no name that a file can have");
 }
 
 }  // namespace

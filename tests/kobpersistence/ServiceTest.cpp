@@ -4,10 +4,10 @@
 #include "tests/doubles/Utf8.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
+#include <random>
+#include <string>
 
 namespace kob::test {
 
@@ -24,11 +24,10 @@ void putBytes(const fs::path& file, const FileBytes& bytes) {
 }
 
 ServiceTest::ServiceTest() : serviceBefore_(setPersistenceService(&makeFileManager)) {
-  std::string pattern = (fs::temp_directory_path() / "kobXXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) {
-    throw std::runtime_error("no folder for the test's files");
-  }
-  folder_ = pattern;
+  std::random_device random;
+  do {
+    folder_ = fs::temp_directory_path() / ("kob" + std::to_string(random()));
+  } while (!fs::create_directory(folder_));
 }
 
 ServiceTest::~ServiceTest() {
@@ -37,14 +36,18 @@ ServiceTest::~ServiceTest() {
   fs::remove_all(folder_, ignored);
 }
 
+fs::path ServiceTest::path(std::string_view file) const {
+  return folder_ / fs::path(testing::fromUtf8(file));
+}
+
 Text ServiceTest::name(std::string_view file) const {
-  return testing::fromUtf8(path(file).string());
+  return path(file).u16string();
 }
 
 std::vector<std::string> ServiceTest::files() const {
   std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(folder_)) {
-    names.push_back(entry.path().filename().string());
+    names.push_back(toUtf8(entry.path().filename().u16string()));
   }
   std::sort(names.begin(), names.end());
   return names;

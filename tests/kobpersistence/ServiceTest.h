@@ -27,8 +27,8 @@ class ServiceTest : public ModelTest {
   ServiceTest();
   ~ServiceTest() override;
 
-  /// A file of the folder, as a path and as the component names it.
-  std::filesystem::path path(std::string_view file) const { return folder_ / file; }
+  /// A file of the folder, in UTF-8, as a path and as the component names it.
+  std::filesystem::path path(std::string_view file) const;
   Text name(std::string_view file) const;
   /// What is in the folder, sorted.
   std::vector<std::string> files() const;

@@ -1,18 +1,9 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
-#include "FailingCalls.h"
-
-#include <kobpersistence/FileManagerOn.h>
+#include "FailingPosixCalls.h"
 
 #include <algorithm>
-#include <cerrno>
 
 namespace kob::test {
-
-namespace {
-
-persistence::Storage* storageInUse = nullptr;
-
-}  // namespace
 
 bool FailingCalls::fails(const char* name) {
   ++count;
@@ -92,16 +83,6 @@ int FailingCalls::rename(const char* from, const char* to) {
 
 int FailingCalls::unlink(const char* path) {
   return fails("unlink") ? -1 : PosixCalls::unlink(path);
-}
-
-FailingService::FailingService()
-    : storage_(persistence::makePosixStorage(calls)),
-      before_(setPersistenceService([] { return persistence::makeFileManagerOn(*storageInUse); })) {
-  storageInUse = storage_.get();
-}
-
-FailingService::~FailingService() {
-  setPersistenceService(before_);
 }
 
 }  // namespace kob::test
