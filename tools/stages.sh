@@ -33,9 +33,10 @@ run_ctest() {
 
 stage_lint() {
   configure_preset release
-  local counts="$results/lint.out"
+  local counts="$results/lint.out" options=()
   rm -f "$counts"
-  tools/lint/lint.py --counts "$counts" || true
+  [ "$whole" = yes ] || options+=(--sample)
+  tools/lint/lint.py "${options[@]}" --counts "$counts" || true
   # shellcheck disable=SC2046
   counted $(cat "$counts")
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: The KOBTraduction authors
-"""Runs the lint rules, each first on something that breaks it: lint.py [--counts FILE] [RULE...]"""
+"""Runs the lint rules, each first on something that breaks it: lint.py [--sample] [--counts FILE] [RULE...]"""
 
 import argparse
 import pathlib
@@ -23,6 +23,7 @@ def main():
     arguments = argparse.ArgumentParser(description=__doc__)
     arguments.add_argument("rules", nargs="*", choices=[[], *RULES], metavar="RULE", help=", ".join(RULES))
     arguments.add_argument("--counts", type=pathlib.Path, help="write 'passed failed skipped' to this file")
+    arguments.add_argument("--sample", action="store_true", help="tidy: only a part of the tests and benchmarks")
     chosen = arguments.parse_args()
     passed = failed = skipped = 0
     for name in chosen.rules or RULES:
@@ -32,7 +33,7 @@ def main():
         else:
             failed += 1
             print(f"{name}: the rule does not see what breaks it")
-        outcome = RULES[name].run()
+        outcome = RULES[name].run(sample=chosen.sample) if name == "tidy" else RULES[name].run()
         for finding in outcome.findings[:SHOWN]:
             print(finding)
         if outcome.skipped:
