@@ -25,7 +25,7 @@ using Link = LiveObject::Link;
 
 FormWalk::FormWalk(QWidget& form, HostRef formObject) : form_(form), formObject_(std::move(formObject)) {
   const ClassTraits& traits = traits_.of(form.metaObject());
-  const Place place{&form, &traits, formObject_, &traits};
+  const Place place{&form, &traits, &formObject_, &traits};
   if (traits.kind != Kind::WindowTitle) {
     expose(form, form.objectName(), traits, place)->setSecondFace();
   }
@@ -94,6 +94,7 @@ void FormWalk::visitPage(QWidget* page, const Place& place) {
 void FormWalk::visitWidget(QWidget& widget, const Place& place) {
   const ClassTraits& traits = traits_.of(widget.metaObject());
   Place inside{&widget, &traits, place.container, place.containerTraits};
+  HostRef object;
   const auto met = met_.find(&widget);
   if (met == met_.end()) {
     QString name = widget.objectName();
@@ -103,13 +104,13 @@ void FormWalk::visitWidget(QWidget& widget, const Place& place) {
       return;
     }
     if (exposure == Exposure::Control) {
-      std::shared_ptr<LiveObject> object = expose(widget, std::move(name), traits, place);
+      object = expose(widget, std::move(name), traits, place);
       if (traits.kind == Kind::Menu) {
         // Menus are no containers: what stands in one is the form's.
-        inside.container = formObject_;
+        inside.container = &formObject_;
         inside.containerTraits = &traits_.of(form_.metaObject());
       } else {
-        inside.container = std::move(object);
+        inside.container = &object;
         inside.containerTraits = &traits;
       }
     }
@@ -183,7 +184,7 @@ FormWalk::Owner FormWalk::ownerOf(const QAction& action) {
 std::shared_ptr<LiveObject> FormWalk::expose(QWidget& widget, QString name, const ClassTraits& traits,
                                              const Place& place) {
   const bool isMenu = traits.kind == Kind::Menu;
-  const HostRef& owner = isMenu ? formObject_ : place.container;
+  const HostRef& owner = isMenu ? formObject_ : *place.container;
   std::shared_ptr<LiveObject> object;
   switch (traits.kind) {
     case Kind::ToolBar: {
@@ -198,8 +199,8 @@ std::shared_ptr<LiveObject> FormWalk::expose(QWidget& widget, QString name, cons
       object = std::make_shared<TabbedObject>(widget, traits.kind, owner, Link::Container);
       break;
     default:
-      object =
-          std::make_shared<WidgetObject>(widget, traits.kind, owner, isMenu ? Link::Parent : Link::Container);
+      object = std::allocate_shared<WidgetObject>(InBlocks<WidgetObject>(blocks_), widget, traits.kind, owner,
+                                                  isMenu ? Link::Parent : Link::Container);
       break;
   }
   controls_.push_back({object, owner.get(), name.isEmpty() ? ownName(widget) : std::move(name)});

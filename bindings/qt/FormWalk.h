@@ -3,6 +3,7 @@
 
 #include "ClassTraits.h"
 #include "LiveObject.h"
+#include "ObjectBlock.h"
 
 #include <QAction>
 #include <QWidget>
@@ -57,7 +58,7 @@ class FormWalk {
   struct Place {
     QWidget* parent;
     const ClassTraits* parentTraits;
-    HostRef container;
+    const HostRef* container;
     const ClassTraits* containerTraits;
   };
 
@@ -80,6 +81,7 @@ class FormWalk {
   QWidget& form_;
   HostRef formObject_;
   TraitsCache traits_;
+  ObjectBlocks blocks_;
   std::vector<Control> controls_;
   std::vector<Button> buttons_;
   std::vector<Menu> menus_;

@@ -30,13 +30,12 @@ Widget& as(QWidget& widget) {
 
 // Setting a button's text gives it the shortcut of the text's mnemonic. One that was set on its own stays.
 void setButtonText(QAbstractButton& button, const QString& text) {
-  const QString before = button.text();
   const QKeySequence shortcut = button.shortcut();
-  if (shortcut.isEmpty() && !before.contains(u'&')) {
+  if (shortcut.isEmpty() && !text.contains(u'&')) {
     button.setText(text);
     return;
   }
-  const bool ownShortcut = shortcut != QKeySequence::mnemonic(before);
+  const bool ownShortcut = shortcut != QKeySequence::mnemonic(button.text());
   button.setText(text);
   if (ownShortcut && button.shortcut() != shortcut) {
     button.setShortcut(shortcut);
@@ -149,9 +148,7 @@ bool setWidgetToolTip(QWidget& widget, Kind kind, const QString& toolTip) {
   if (kind == Kind::ToolButton && standsForAction(widget, kind)) {
     return false;
   }
-  if (widget.toolTip() != toolTip) {
-    widget.setToolTip(toolTip);
-  }
+  widget.setToolTip(toolTip);
   return true;
 }
 

@@ -43,20 +43,38 @@ inline Word upperWord(const char16_t* units) noexcept {
   return isAscii(word) ? upperAscii(word) : upperOther(units);
 }
 
-/// The units behind the last whole word of a text, upper-cased: the last word's worth of a text that has one,
-/// else what there is, filled up with zeros.
-Word upperTail(TextView text) noexcept {
+/// The units behind the last whole word of a text: the last word's worth of a text that has one, else what
+/// there is, filled up with zeros.
+Word tail(TextView text) noexcept {
   if (text.size() >= unitsPerWord) {
-    return upperWord(text.data() + text.size() - unitsPerWord);
+    return loadWord(text.data() + text.size() - unitsPerWord);
   }
-  char16_t folded[unitsPerWord] = {};
-  std::transform(text.begin(), text.end(), folded, upperUnit);
-  return loadWord(folded);
+  char16_t units[unitsPerWord] = {};
+  std::copy(text.begin(), text.end(), units);
+  return loadWord(units);
+}
+
+/// The same, upper-cased.
+Word upperTail(TextView text) noexcept {
+  const Word word = tail(text);
+  if (isAscii(word)) {
+    return upperAscii(word);
+  }
+  char16_t units[unitsPerWord];
+  std::memcpy(units, &word, sizeof word);
+  return upperOther(units);
 }
 
 bool equalWord(const char16_t* a, const char16_t* b) noexcept {
   // Most texts that are compared are spelled alike.
   return loadWord(a) == loadWord(b) || upperWord(a) == upperWord(b);
+}
+
+/// Four units as a hash sees them: the same for words that are equal once upper-cased. It need not tell all
+/// others apart, so every letter is taken over to the lower case by its bit, whatever else has that bit.
+Word foldedWord(const char16_t* units) noexcept {
+  const Word word = loadWord(units);
+  return (isAscii(word) ? word : upperOther(units)) | everyUnit * 0x20;
 }
 
 Word mix(Word hash, Word word) noexcept {
@@ -95,10 +113,7 @@ bool equalToUpper(TextView text, TextView uppered) noexcept {
       return false;
     }
   }
-  return whole == text.size() ||
-         std::equal(text.begin() + static_cast<std::ptrdiff_t>(whole), text.end(),
-                    uppered.begin() + static_cast<std::ptrdiff_t>(whole),
-                    [](char16_t own, char16_t other) { return upperUnit(own) == other; });
+  return whole == text.size() || upperTail(text) == tail(uppered);
 }
 
 bool lessUpper(TextView a, TextView b) noexcept {
@@ -115,10 +130,11 @@ std::uint32_t hashUpper(TextView text) noexcept {
   Word hash = text.size();
   const std::size_t whole = text.size() - text.size() % unitsPerWord;
   for (std::size_t i = 0; i < whole; i += unitsPerWord) {
-    hash = mix(hash, upperWord(text.data() + i));
+    hash = mix(hash, foldedWord(text.data() + i));
   }
   if (whole != text.size()) {
-    hash = mix(hash, upperTail(text));
+    hash = mix(hash, text.size() > unitsPerWord ? foldedWord(text.data() + text.size() - unitsPerWord)
+                                                : upperTail(text) | everyUnit * 0x20);
   }
   return static_cast<std::uint32_t>(hash ^ (hash >> 32));
 }

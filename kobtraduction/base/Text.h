@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,11 @@ inline char16_t upperUnit(char16_t unit) noexcept {
 
 /// The text with every unit upper-cased.
 KOB_EXPORT Text upper(TextView text);
+
+/// Whether both texts are the same, unit by unit: the operator == of texts, in fewer steps.
+inline bool sameUnits(TextView a, TextView b) noexcept {
+  return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof a[0]) == 0);
+}
 
 /// Whether both texts read the same once upper-cased.
 KOB_EXPORT bool equalUpper(TextView a, TextView b) noexcept;

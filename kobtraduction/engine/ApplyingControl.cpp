@@ -21,7 +21,7 @@ TextView textOf(const KOBTraductionObj& entry, std::int32_t langue) {
 
 /// Whether an entry bears a name, case ignored; most are spelled as the component spells them.
 bool isNamed(TextView name, TextView usual, TextView uppered) {
-  return name == usual || equalToUpper(name, uppered);
+  return sameUnits(name, usual) || equalToUpper(name, uppered);
 }
 
 /// A text that stays whatever becomes of the model.

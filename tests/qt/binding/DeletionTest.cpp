@@ -18,6 +18,7 @@
 #include <gmock/gmock.h>
 
 #include <memory>
+#include <vector>
 
 namespace kob::qt::test {
 
@@ -97,6 +98,23 @@ TEST(QtDeleted, OneControlFailsAndTheOthersStay) {
   delete first;
   expectFailing(objects.at(0));
   EXPECT_EQ(text(objects.at(1), Property::Name), "second");
+}
+
+TEST(QtDeleted, AnyControlOutlivesTheListOfAll) {
+  QWidget form;
+  for (int i = 0; i < 200; ++i) {
+    (new QLabel(&form))->setObjectName("lbl" + QString::number(i));
+  }
+  std::vector<HostRef> kept;
+  {
+    const std::vector<HostRef> all = *(*hostForm(&form)->get(Property::Controls)->asObject())->enumerate();
+    kept = {all.front(), all[40], all.back()};
+  }
+  const std::vector<HostRef> again = *(*hostForm(&form)->get(Property::Controls)->asObject())->enumerate();
+  EXPECT_EQ(*kept[0]->get(Property::Name)->asText(), u"lbl0");
+  EXPECT_EQ(*kept[1]->get(Property::Name)->asText(), u"lbl40");
+  EXPECT_EQ(*kept[2]->get(Property::Name)->asText(), u"lbl199");
+  EXPECT_EQ(kept[1]->identity(), again[40]->identity());
 }
 
 TEST(QtDeleted, ChosenTabThatIsGoneFails) {
