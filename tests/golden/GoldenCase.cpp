@@ -64,9 +64,27 @@ class Expectation {
   std::string unchanged_;
 };
 
+/// A form of this process, and the component linked to it.
+class HostSubject final : public CaseSubject {
+ public:
+  HostSubject(std::unique_ptr<CaseHost> host, std::string_view treeText)
+      : host_(std::move(host)), run_(*host_, treeText) {}
+
+  void perform(const Line& line) override { run_.perform(line); }
+  std::string form() const override { return host_->print(); }
+  std::string tree() const override { return run_.tree(); }
+  std::string messages() override { return run_.messages(); }
+
+ private:
+  std::unique_ptr<CaseHost> host_;
+  CaseRun run_;
+};
+
 }  // namespace
 
 CaseHost::~CaseHost() = default;
+
+CaseSubject::~CaseSubject() = default;
 
 std::vector<std::string> goldenCases() {
   std::vector<std::string> names;
@@ -87,23 +105,35 @@ std::string reasonToSkip(const std::string& name, std::string_view hostKind) {
   return only;
 }
 
-std::string runGoldenCase(const std::string& name, const MakeHost& makeHost, bool update) {
+std::string runGoldenCase(const std::string& name, const MakeSubject& makeSubject, bool update) {
   const fs::path folder = folderOf(name);
-  const std::unique_ptr<CaseHost> host = makeHost(mustRead(folder / "form"));
-  CaseRun run(*host, readFile(folder / "tree").value_or(""));
-  const Expectation form(folder / "expected-form", host->print());
-  const Expectation tree(folder / "expected-tree", run.tree());
+  const std::unique_ptr<CaseSubject> subject =
+      makeSubject(mustRead(folder / "form"), readFile(folder / "tree").value_or(""));
+  const Expectation form(folder / "expected-form", subject->form());
+  const Expectation tree(folder / "expected-tree", subject->tree());
   const Expectation messages(folder / "expected-messages", "");
   for (const Line& line : linesOf(mustRead(folder / "operations"))) {
-    run.perform(line);
+    subject->perform(line);
   }
   if (update) {
-    form.update(host->print());
-    tree.update(run.tree());
-    messages.update(run.messages());
+    form.update(subject->form());
+    tree.update(subject->tree());
+    messages.update(subject->messages());
     return {};
   }
-  return form.compare(host->print()) + tree.compare(run.tree()) + messages.compare(run.messages());
+  return form.compare(subject->form()) + tree.compare(subject->tree()) +
+         messages.compare(subject->messages());
+}
+
+std::string runGoldenCase(const std::string& name, const MakeHost& makeHost, bool update) {
+  const MakeSubject makeSubject = [&makeHost](std::string_view formText, std::string_view treeText) {
+    return std::make_unique<HostSubject>(makeHost(formText), treeText);
+  };
+  return runGoldenCase(name, makeSubject, update);
+}
+
+std::string caseText(const std::string& name, const std::string& file) {
+  return readFile(folderOf(name) / file).value_or("");
 }
 
 bool takeUpdateFlag(int& count, char** arguments) {

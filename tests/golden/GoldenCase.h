@@ -2,6 +2,7 @@
 #pragma once
 
 #include <kobtraduction/engine/HostObject.h>
+#include <tests/doubles/Lines.h>
 
 #include <filesystem>
 #include <functional>
@@ -28,6 +29,25 @@ class CaseHost {
   virtual std::string print() const = 0;
 };
 
+/// What a case is performed on: a live form and a model, wherever they are.
+class CaseSubject {
+ public:
+  CaseSubject() = default;
+  CaseSubject(const CaseSubject&) = delete;
+  CaseSubject& operator=(const CaseSubject&) = delete;
+  virtual ~CaseSubject();
+
+  /// Performs an operation; throws std::runtime_error for a line that is none.
+  virtual void perform(const Line& line) = 0;
+  virtual std::string form() const = 0;
+  virtual std::string tree() const = 0;
+  /// What was shown and what operations returned, a line each, up to now.
+  virtual std::string messages() = 0;
+};
+
+using MakeSubject =
+    std::function<std::unique_ptr<CaseSubject>(std::string_view formText, std::string_view treeText)>;
+
 /// Builds the form of a text; throws std::runtime_error for what this kind of host cannot have.
 using MakeHost = std::function<std::unique_ptr<CaseHost>(std::string_view formText)>;
 
@@ -39,7 +59,12 @@ std::string reasonToSkip(const std::string& name, std::string_view hostKind);
 
 /// Runs a case and compares; the text of a test failure, empty when everything is as expected. Asked to
 /// update, it writes what it saw into the case's files instead.
+std::string runGoldenCase(const std::string& name, const MakeSubject& makeSubject, bool update);
+/// The same in this process, on a host of some kind.
 std::string runGoldenCase(const std::string& name, const MakeHost& makeHost, bool update);
+
+/// A file of a case as it stands, "" when the case has none of that name.
+std::string caseText(const std::string& name, const std::string& file);
 
 /// Whether the program was started with --update, which is taken from the arguments.
 bool takeUpdateFlag(int& count, char** arguments);

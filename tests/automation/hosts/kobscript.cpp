@@ -3,6 +3,7 @@
 // What it prints is UTF-8. Status 0 when the script came to its end, 1 when an error ended it (on standard
 // error: file, line, column and text), 2 when it could not begin.
 
+#include "scripting/BoxWatcher.h"
 #include "scripting/ScriptEngine.h"
 #include "scripting/TestFunctions.h"
 
@@ -31,7 +32,9 @@ int runScript(const std::wstring& file, std::vector<Text> arguments) {
   }
   try {
     const Text source = readTextFile(file);
-    TestFunctions functions(std::move(arguments), [](const std::string& text) { writeTo(stdout, text); });
+    BoxWatcher boxes;
+    TestFunctions functions(
+        std::move(arguments), [](const std::string& text) { writeTo(stdout, text); }, boxes);
     ScriptEngine engine(*language);
     engine.add(u"Host", functions.object().get(), true);
     if (const std::optional<ScriptError> error = engine.run(source)) {

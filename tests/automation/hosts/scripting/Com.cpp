@@ -33,7 +33,7 @@ Variant invoke(IDispatch* object, TextView name, WORD how, std::vector<Variant> 
   std::transform(arguments.begin(), arguments.end(), std::back_inserter(raw),
                  [](Variant& one) { return *one.get(); });
   DISPID putId = DISPID_PROPERTYPUT;
-  const bool isPut = how != (DISPATCH_METHOD | DISPATCH_PROPERTYGET);
+  const bool isPut = (how & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
   DISPPARAMS parameters = {raw.data(), isPut ? &putId : nullptr, static_cast<UINT>(raw.size()),
                            isPut ? 1U : 0U};
   Variant result;
@@ -135,6 +135,10 @@ HRESULT memberId(IDispatch* object, TextView name, DISPID& id) {
   }
   auto* letters = const_cast<OLECHAR*>(wide(terminated.c_str()));
   return object->GetIDsOfNames(IID_NULL, &letters, 1, LOCALE_NEUTRAL, &id);
+}
+
+Variant get(IDispatch* object, TextView name, const std::vector<Variant>& index) {
+  return invoke(object, name, DISPATCH_PROPERTYGET, index);
 }
 
 Variant call(IDispatch* object, TextView name, const std::vector<Variant>& arguments) {

@@ -104,7 +104,9 @@ void check(HRESULT result, TextView what);
 /// The identifier of a member, letter case ignored: by IDispatchEx where the object has it.
 HRESULT memberId(IDispatch* object, TextView name, DISPID& id);
 
-/// Reads a property or calls a method.
+/// Reads a property.
+Variant get(IDispatch* object, TextView name, const std::vector<Variant>& index = {});
+/// Calls a method, or reads a property of an object that tells the two apart by itself.
 Variant call(IDispatch* object, TextView name, const std::vector<Variant>& arguments = {});
 void put(IDispatch* object, TextView name, const Variant& value, const std::vector<Variant>& index = {});
 

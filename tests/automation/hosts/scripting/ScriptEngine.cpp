@@ -199,7 +199,7 @@ std::optional<ScriptError> ScriptEngine::run(TextView source) {
 Variant ScriptEngine::variable(TextView name) {
   ComPtr<IDispatch> names;
   check(site_->engine->GetScriptDispatch(nullptr, names.out()), u"the engine has no variables");
-  return call(names.get(), name);
+  return get(names.get(), name);
 }
 
 }  // namespace kob::hosts

@@ -101,8 +101,9 @@ Text readTextFile(const std::wstring& file) {
   }
 }
 
-TestFunctions::TestFunctions(std::vector<Text> arguments, std::function<void(const std::string&)> print)
-    : arguments_(std::move(arguments)), print_(std::move(print)) {}
+TestFunctions::TestFunctions(std::vector<Text> arguments, std::function<void(const std::string&)> print,
+                             BoxWatcher& boxes)
+    : arguments_(std::move(arguments)), print_(std::move(print)), boxes_(boxes) {}
 
 Variant TestFunctions::quit(const Arguments& arguments) {
   const std::int32_t status = arguments.empty() ? 0 : arguments[0].number();

@@ -15,7 +15,9 @@ namespace kob::hosts {
 class TestFunctions {
  public:
   /// `arguments` are those of the script. What it prints goes to `print`, in UTF-8, line breaks included.
-  TestFunctions(std::vector<Text> arguments, std::function<void(const std::string&)> print);
+  /// The boxes stay with whoever made them.
+  TestFunctions(std::vector<Text> arguments, std::function<void(const std::string&)> print,
+                BoxWatcher& boxes);
   TestFunctions(const TestFunctions&) = delete;
   TestFunctions& operator=(const TestFunctions&) = delete;
 
@@ -26,7 +28,7 @@ class TestFunctions {
 
   std::vector<Text> arguments_;
   std::function<void(const std::string&)> print_;
-  BoxWatcher boxes_;
+  BoxWatcher& boxes_;
 };
 
 /// A file in UTF-8, a byte order mark in front allowed; throws ComError.
