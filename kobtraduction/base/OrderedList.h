@@ -10,13 +10,37 @@
 
 namespace kob {
 
+/// For lists whose changes nobody needs to be told of.
+struct Unwatched {
+  static void changed() noexcept {}
+};
+
 /// The container of the model's public lists: items are ordered and numbered from 1. A position
 /// outside 1..count fails with FailureKind::InvalidIndex and changes nothing. A list is an object of its own,
-/// held by reference, because a host may keep one and change it behind its owner's back. Used on one thread.
-template <class T>
+/// held by reference, because a host may keep one and change it behind its owner's back. Watch::changed() is
+/// called before each change. Used on one thread.
+template <class T, class Watch = Unwatched>
 class OrderedList {
  public:
   using const_iterator = typename std::vector<T>::const_iterator;
+
+  OrderedList() = default;
+  OrderedList(const OrderedList& other) = default;
+  OrderedList(OrderedList&& other) noexcept {
+    Watch::changed();
+    items_.swap(other.items_);
+  }
+  OrderedList& operator=(const OrderedList& other) {
+    Watch::changed();
+    items_ = other.items_;
+    return *this;
+  }
+  OrderedList& operator=(OrderedList&& other) noexcept {
+    Watch::changed();
+    items_.swap(other.items_);
+    return *this;
+  }
+  ~OrderedList() = default;
 
   std::int32_t Count() const noexcept { return static_cast<std::int32_t>(items_.size()); }
 
@@ -31,14 +55,19 @@ class OrderedList {
     }
   }
 
-  void Add(T item) { items_.push_back(std::move(item)); }
+  void Add(T item) {
+    Watch::changed();
+    items_.push_back(std::move(item));
+  }
 
   /// Inserts in front of the item at `before`.
   void Add(T item, std::int32_t before) {
+    Watch::changed();
     items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(index(before)), std::move(item));
   }
 
   void Remove(std::int32_t position) {
+    Watch::changed();
     items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index(position)));
   }
 

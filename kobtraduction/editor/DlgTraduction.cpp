@@ -31,7 +31,8 @@ DlgTraduction::DlgTraduction(WidgetSet& widgets, KOBModeleTraduction& Modele,
       w(*window_),
       model_(Modele),
       Cell_(std::move(Cell)),
-      Mode_(Mode) {
+      Mode_(Mode),
+      known_(Modele) {
   connect();
   connectTexts();
   connectPosition();

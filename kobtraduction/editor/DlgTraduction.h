@@ -2,6 +2,7 @@
 #pragma once
 
 #include <kobtraduction/editor/DlgTraductionWidgets.h>
+#include <kobtraduction/editor/KnownTexts.h>
 #include <kobtraduction/editor/WidgetSet.h>
 #include <kobtraduction/model/KOBModeleTraduction.h>
 
@@ -107,6 +108,8 @@ class DlgTraduction {
   std::shared_ptr<KOBCellTraduction> Cell_;
   std::int32_t Mode_;
   std::unique_ptr<DlgRecherche> m_Recherche;
+  /// The texts that a clicked cell is completed from.
+  KnownTexts known_;
   /// While it is set, what happens to the widgets does not reach the model.
   bool m_Updating = false;
   /// Events that are being handled, one within the other.

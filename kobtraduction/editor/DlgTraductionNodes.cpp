@@ -101,6 +101,7 @@ void DlgTraduction::addTranslationName() {
     }
   }
   entries.Add(namedEntry(dialog.nom()));
+  known_.prepare();
   changed();
   w.LstNomTrad.add(dialog.nom());
   w.LstNomTrad.setListIndex(w.LstNomTrad.count() - 1);
@@ -114,6 +115,7 @@ void DlgTraduction::deleteTranslationName() {
     return;
   }
   required(Cell_->ColTraduction()).Remove(w.LstNomTrad.listIndex() + 1);
+  known_.prepare();
   changed();
   // This clears the guard also after a search hit.
   const Updating updating(*this, false);

@@ -87,7 +87,11 @@ void DlgTraduction::changeText(KOBTraductionObj& entry, TextView text, std::int3
   const std::shared_ptr<TextList> texts = entry.ColTraduction();
   const bool differs = language <= model_.NbLangues() && texts != nullptr && language <= texts->Count() &&
                        texts->Item(language) != text;
-  entry.ChangeTraduction(text, language);
+  if (differs && language == 1) {
+    known_.changeReference(entry, text);
+  } else {
+    entry.ChangeTraduction(text, language);
+  }
   if (differs) {
     changed();
   }

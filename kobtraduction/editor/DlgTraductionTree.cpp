@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include <kobtraduction/editor/DlgTraduction.h>
-#include <kobtraduction/editor/KnownTexts.h>
 #include <kobtraduction/model/CellWalk.h>
 #include <kobtraduction/model/Entries.h>
 
-#include <exception>
 #include <vector>
 
 namespace kob {
@@ -50,6 +48,8 @@ void DlgTraduction::FillTV() {
   } else {
     DisplayCell(0);
   }
+  // A click is quicker than the making of an index.
+  known_.prepare();
 }
 
 void DlgTraduction::addTopLevel(KOBCellTraduction& cell) {
@@ -97,31 +97,15 @@ void DlgTraduction::clickNode(Node node) {
 }
 
 void DlgTraduction::completeTexts(const KOBCellTraduction& cell) {
-  std::vector<KOBTraductionObj*> entries;
-  std::vector<Text> references;
-  // An entry that cannot be read fails in its own turn, after those before it have been completed.
-  std::exception_ptr unreadable;
-  try {
-    eachEntry(cell, [&](KOBTraductionObj& entry) {
-      references.emplace_back(textsOf(entry).Item(1));
-      entries.push_back(&entry);
-    });
-  } catch (const Failure&) {
-    unreadable = std::current_exception();
-  }
-  const KnownTexts known(model_, references);
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    const TextList& texts = known.of(i);
+  eachEntry(cell, [this](KOBTraductionObj& entry) {
+    const std::shared_ptr<TextList> known = known_.of(textsOf(entry).Item(1));
     // Beyond the sixth language there is nothing known, and asking for it fails.
     for (std::int32_t language = 2, last = model_.NbLangues(); language <= last; ++language) {
-      if (textsOf(*entries[i]).Item(language).empty()) {
-        changeText(*entries[i], texts.Item(language), language);
+      if (textsOf(entry).Item(language).empty()) {
+        changeText(entry, known->Item(language), language);
       }
     }
-  }
-  if (unreadable != nullptr) {
-    std::rethrow_exception(unreadable);
-  }
+  });
 }
 
 }  // namespace kob

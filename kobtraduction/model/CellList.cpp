@@ -68,6 +68,7 @@ void CellList::Add(std::shared_ptr<KOBCellTraduction> cell, std::int32_t before)
 void CellList::Remove(std::int32_t position) {
   const Place place = locate(position);
   treeChanged();
+  entriesChanged();
   Chunk& chunk = *chunks_[place.chunk];
   // Kept until the list is whole again: releasing the last reference may run a host's code.
   const std::shared_ptr<KOBCellTraduction> cell = std::move(chunk[place.offset]);
@@ -94,6 +95,7 @@ CellList::Place CellList::endPlace() const noexcept {
 
 void CellList::insert(Place place, std::shared_ptr<KOBCellTraduction> cell) {
   treeChanged();
+  entriesChanged();
   if (chunks_.empty()) {
     chunks_.push_back(std::make_unique<Chunk>());
   }

@@ -58,6 +58,7 @@ void KOBCellTraduction::setTypeFeuille(std::int32_t kind) {
 }
 
 void KOBCellTraduction::clearTranslations() noexcept {
+  entriesChanged();
   untouched_ = -1;
   traduction_ = nullptr;
   colTraduction_.drop();
@@ -97,6 +98,7 @@ std::shared_ptr<KOBTraductionObj> KOBCellTraduction::Traduction() const {
 }
 
 void KOBCellTraduction::setTraduction(std::shared_ptr<KOBTraductionObj> entry) {
+  entriesChanged();
   if (typeFeuille_ == 1) {
     untouched_ = -1;
   }

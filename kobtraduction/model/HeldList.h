@@ -16,8 +16,9 @@ template <class List>
 class HeldList {
  public:
   HeldList() = default;
-  /// An object that starts with a list.
-  explicit HeldList(List list) : inside_(std::move(list)), isInside_(true) {}
+  /// An object that starts with a list, made of this.
+  template <class... Parts>
+  explicit HeldList(std::in_place_t /*start*/, Parts... parts) : inside_(parts...), isInside_(true) {}
 
   /// The list, or null for none.
   List* get() const noexcept {

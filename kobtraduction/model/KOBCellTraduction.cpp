@@ -149,6 +149,7 @@ void KOBCellTraduction::removeHolder(CellList& list) noexcept {
 
 void KOBCellTraduction::setColCell(std::shared_ptr<CellList> children) noexcept {
   treeChanged();
+  entriesChanged();
   colCell_ = std::move(children);
 }
 
@@ -157,6 +158,7 @@ void KOBCellTraduction::setTypeCell(std::int32_t kind) {
     return;
   }
   treeChanged();
+  entriesChanged();
   typeCell_ = static_cast<std::int8_t>(kind);
   colCell_ = kind == 1 ? std::make_shared<CellList>() : nullptr;
 }

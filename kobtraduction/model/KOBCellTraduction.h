@@ -6,6 +6,7 @@
 #include <kobtraduction/base/StoredText.h>
 #include <kobtraduction/base/Text.h>
 #include <kobtraduction/model/CellList.h>
+#include <kobtraduction/model/EntryChanges.h>
 #include <kobtraduction/model/Factor.h>
 #include <kobtraduction/model/HeldList.h>
 #include <kobtraduction/model/KOBTraductionObj.h>
@@ -21,7 +22,7 @@ class HostObject;
 class KOBModeleTraduction;
 using HostRef = std::shared_ptr<HostObject>;
 
-using EntryList = OrderedList<std::shared_ptr<KOBTraductionObj>>;
+using EntryList = OrderedList<std::shared_ptr<KOBTraductionObj>, WatchedEntries>;
 using FactorList = OrderedList<Factor>;
 /// What a search has found, in the order found.
 using CellResults = OrderedList<std::shared_ptr<KOBCellTraduction>>;
@@ -65,7 +66,10 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   std::shared_ptr<KOBTraductionObj> Traduction() const;
   void setTraduction(std::shared_ptr<KOBTraductionObj> entry);
   std::shared_ptr<EntryList> ColTraduction() const { return colTraduction_.share(weak_from_this().lock()); }
-  void setColTraduction(std::shared_ptr<EntryList> entries) { colTraduction_.assign(std::move(entries)); }
+  void setColTraduction(std::shared_ptr<EntryList> entries) {
+    entriesChanged();
+    colTraduction_.assign(std::move(entries));
+  }
   std::shared_ptr<FactorList> ColLeft() const;
   void setColLeft(std::shared_ptr<FactorList> factors);
   std::shared_ptr<FactorList> ColWidth() const;

@@ -3,11 +3,13 @@
 #include <kobtraduction/component/Global_Util.h>
 #include <kobtraduction/model/KOBTraductionObj.h>
 
+#include <utility>
+
 namespace kob {
 
 KOBTraductionObj::KOBTraductionObj() : KOBTraductionObj(Global_Util::NbLangues()) {}
 
-KOBTraductionObj::KOBTraductionObj(std::int32_t languages) : colTraduction_(TextList(languages)) {}
+KOBTraductionObj::KOBTraductionObj(std::int32_t languages) : colTraduction_(std::in_place, languages) {}
 
 void KOBTraductionObj::setnom(TextView name) {
   // Nearly all entries of a model bear one of these names.

@@ -4,6 +4,7 @@
 #include <kobtraduction/base/Export.h>
 #include <kobtraduction/base/StoredText.h>
 #include <kobtraduction/base/Text.h>
+#include <kobtraduction/model/EntryChanges.h>
 #include <kobtraduction/model/HeldList.h>
 #include <kobtraduction/model/TextList.h>
 #include <kobtraduction/persistence/PersistStream.h>
@@ -31,7 +32,10 @@ class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream,
   /// The texts; may be none when a host has assigned none. A list that is kept keeps its entry alive, when
   /// that is one that references share.
   std::shared_ptr<TextList> ColTraduction() const { return colTraduction_.share(weak_from_this().lock()); }
-  void setColTraduction(std::shared_ptr<TextList> texts) { colTraduction_.assign(std::move(texts)); }
+  void setColTraduction(std::shared_ptr<TextList> texts) {
+    entriesChanged();
+    colTraduction_.assign(std::move(texts));
+  }
 
   /// The translation's name within a control cell; "" for the entry of a message cell.
   /// The view lives until the name is changed.

@@ -1,4 +1,5 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobtraduction/model/EntryChanges.h>
 #include <kobtraduction/model/TextList.h>
 
 #include <algorithm>
@@ -14,6 +15,12 @@ namespace {
 /// What the length of a run can be told in.
 constexpr std::size_t longestRun = std::numeric_limits<std::int32_t>::max();
 
+void tellIfFirst(std::uint32_t item) noexcept {
+  if (item == 0) {
+    entriesChanged();
+  }
+}
+
 }  // namespace
 
 TextList::TextList() noexcept = default;
@@ -23,17 +30,23 @@ TextList::TextList(std::int32_t count) noexcept : TextList() {
 }
 
 TextList::TextList(TextList&& other) noexcept : TextList() {
-  *this = std::move(other);
+  entriesChanged();
+  swap(other);
 }
 
 TextList& TextList::operator=(TextList&& other) noexcept {
+  entriesChanged();
+  swap(other);
+  return *this;
+}
+
+void TextList::swap(TextList& other) noexcept {
   std::swap(units_, other.units_);
   std::swap(count_, other.count_);
   std::swap(capacity_, other.capacity_);
   std::swap(fewEnds_, other.fewEnds_);
   std::swap(moreEnds_, other.moreEnds_);
   std::swap(image_, other.image_);
-  return *this;
 }
 
 TextList::~TextList() {
@@ -127,6 +140,7 @@ void TextList::Add(TextView text) {
 
 void TextList::Add(TextView text, std::int32_t before) {
   const std::uint32_t item = index(before);
+  tellIfFirst(item);
   if (units_ == nullptr && text.empty()) {
     ++count_;
     return;
@@ -143,6 +157,7 @@ void TextList::Add(TextView text, std::int32_t before) {
 
 void TextList::Remove(std::int32_t position) {
   const std::uint32_t item = index(position);
+  tellIfFirst(item);
   if (units_ != nullptr) {
     const std::uint32_t size = end(item) - start(item);
     if (size > 0) {
@@ -163,6 +178,7 @@ void TextList::Replace(std::int32_t position, TextView text) {
   if (units_ == nullptr && text.empty()) {
     return;
   }
+  tellIfFirst(item);
   if (units_ == nullptr) {
     makeEnds();
   }

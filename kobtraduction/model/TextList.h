@@ -14,8 +14,8 @@ namespace kob {
 /// The texts of one entry, item i in language i. It reads like an OrderedList of texts, but the texts lie one
 /// behind the other in one run of characters: the list's own, or a part of an image that the list keeps alive
 /// (a loaded file), which costs no allocation. The first change of a run that is not the list's own copies
-/// it. A position outside 1..count fails with FailureKind::InvalidIndex and changes nothing. Used on one
-/// thread.
+/// it. A position outside 1..count fails with FailureKind::InvalidIndex and changes nothing. A change of the
+/// first text is told (see EntryChanges.h). Used on one thread.
 class KOB_EXPORT TextList {
  public:
   TextList() noexcept;
@@ -61,6 +61,8 @@ class KOB_EXPORT TextList {
   const char16_t* units() const noexcept { return units_; }
 
  private:
+  void swap(TextList& other) noexcept;
+
   /// More languages are rare; the ends of their texts lie apart.
   static constexpr std::uint32_t fewTexts = 6;
   using Ends = std::vector<std::uint32_t>;

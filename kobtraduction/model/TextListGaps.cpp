@@ -1,4 +1,5 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobtraduction/model/EntryChanges.h>
 #include <kobtraduction/model/TextList.h>
 
 #include <algorithm>
@@ -27,6 +28,9 @@ bool TextList::FillGaps(const TextList& source, std::int32_t first, std::int32_t
     const std::size_t size = source.Item(position).size();
     growth += size;
     remain = remain || size == 0;
+  }
+  if (growth > 0 && first == 1) {
+    entriesChanged();
   }
   if (growth > 0) {
     makeFilledRun(source, static_cast<std::uint32_t>(first) - 1, static_cast<std::uint32_t>(position) - 1,

@@ -124,6 +124,7 @@ void KOBModeleTraduction::read(PersistStream& stream) {
     mustBeSet(root);
     racine_ = std::move(root);
     treeChanged();
+    entriesChanged();
   });
 }
 

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "EditorTest.h"
 
-#include <kobtraduction/editor/KnownTexts.h>
-
 namespace kob::testing {
 
 namespace {
@@ -110,23 +108,38 @@ TEST_F(EditorCompletion, AnEntryTooShortForALanguageEndsShowAfterTheOnesBefore) 
   EXPECT_EQ(textsOfEntry(clicked, 1)[1], u"Yes");
 }
 
-TEST_F(EditorCompletion, SeveralTextsInOneWalkAreKnownLikeOneByOne) {
-  control(app, u"a", {caption(u"Oui", u"Yes"), caption(u"Non"), caption(u"oui")});
-  message(app, u"b", {u"NON", u"No", u"Nee", {}, {}, {}});
-  const Texts references{u"oui", u"Non", u"unknown", u"OUI"};
-  const KnownTexts known(model, references);
-  for (std::size_t i = 0; i < references.size(); ++i) {
-    EXPECT_EQ(texts(known.of(i)), texts(*model.GetTraductionsConnues(references[i]))) << i;
-  }
+TEST_F(EditorCompletion, ATextTypedJustNowIsTakenFrom) {
+  const CellRef clicked = message(app, u"a", {u"Oui", {}, {}, {}, {}, {}});
+  message(app, u"b", {u"Non", {}, {}, {}, {}, {}});
+  edit(u"", [](Person& person) {
+    person.clickTag(u"App\\b");
+    person.type(u"tbTradMessage", 0, u"oui");
+    person.type(u"tbTradMessage", 1, u"Yes");
+    person.clickTag(u"App\\a");
+  });
+  EXPECT_EQ(texts(clicked)[1], u"Yes");
 }
 
-TEST_F(EditorCompletion, AWalkThatFailsForOneTextGoesOnForTheOthers) {
-  message(app, u"short", {u"Oui"});
-  message(app, u"b", {u"Non", u"No", {}, {}, {}, {}});
-  const Texts references{u"Oui", u"Non"};
-  const KnownTexts known(model, references);
-  EXPECT_EQ(failureOf([&] { known.of(0); }), FailureKind::InvalidIndex);
-  EXPECT_EQ(known.of(1).Item(2), u"No");
+TEST_F(EditorCompletion, ATextThatWasTypedOverIsNotTakenFrom) {
+  const CellRef clicked = message(app, u"a", {u"Oui", {}, {}, {}, {}, {}});
+  message(app, u"b", {u"Oui", u"Yes", {}, {}, {}, {}});
+  edit(u"", [](Person& person) {
+    person.clickTag(u"App\\b");
+    person.type(u"tbTradMessage", 0, u"Non");
+    person.clickTag(u"App\\a");
+  });
+  EXPECT_EQ(texts(clicked)[1], u"");
+}
+
+TEST_F(EditorCompletion, WhatAHostChangesMeanwhileCounts) {
+  const CellRef clicked = message(app, u"a", {u"Oui", {}, {}, {}, {}, {}});
+  const CellRef other = message(app, u"b", {u"Non", u"Yes", {}, {}, {}, {}});
+  edit(u"", [&](Person& person) {
+    person.clickTag(u"App\\b");
+    other->Traduction()->ChangeTraduction(u"Oui", 1);
+    person.clickTag(u"App\\a");
+  });
+  EXPECT_EQ(texts(clicked)[1], u"Yes");
 }
 
 }  // namespace

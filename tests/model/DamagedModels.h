@@ -34,6 +34,11 @@ class DamagedModels {
   DamagedModels(const DamagedModels&) = delete;
   DamagedModels& operator=(const DamagedModels&) = delete;
 
+  void apply(const Growth& step);
+  /// Among all that were ever made.
+  CellRef cell(int number) const { return cells_[static_cast<std::size_t>(number) % cells_.size()]; }
+  EntryRef entryAt(int number) const { return entries_[static_cast<std::size_t>(number) % entries_.size()]; }
+
   /// Names and texts of every entry that was ever made.
   Texts everything() const;
   /// Cells by the order in which they were made.
@@ -46,7 +51,6 @@ class DamagedModels {
   static Text text(int number);
 
  private:
-  void apply(const Growth& step);
   void damage(const Growth& step);
   void share(const Growth& step);
   /// Adds a cell below a cell of the first model, and its like in the second one.
@@ -54,8 +58,6 @@ class DamagedModels {
   CellRef makeCell(const CellRef& parent, const Growth& step, int kind);
   EntryRef makeEntry(int seed);
   std::shared_ptr<TextList> makeTexts(int seed, int count);
-  CellRef cell(int number) const { return cells_[static_cast<std::size_t>(number) % cells_.size()]; }
-  EntryRef entryAt(int number) const { return entries_[static_cast<std::size_t>(number) % entries_.size()]; }
 
   /// Cells that were made together lie side by side.
   std::vector<CellRef> cells_;
