@@ -22,7 +22,10 @@ void* CellShell::otherPart(REFIID id) noexcept {
 }
 
 HRESULT CellShell::get_nom(BSTR* value) {
-  return guarded(L"nom", [&] { out(value) = newBstr(cell_->nom()); });
+  return guarded(L"nom", [&] {
+    auto& result = out(value);
+    result = newBstr(cell_->nom());
+  });
 }
 
 HRESULT CellShell::put_nom(BSTR value) {
@@ -30,7 +33,10 @@ HRESULT CellShell::put_nom(BSTR value) {
 }
 
 HRESULT CellShell::get_Alias(BSTR* value) {
-  return guarded(L"Alias", [&] { out(value) = newBstr(cell_->Alias()); });
+  return guarded(L"Alias", [&] {
+    auto& result = out(value);
+    result = newBstr(cell_->Alias());
+  });
 }
 
 HRESULT CellShell::put_Alias(BSTR value) {
@@ -38,7 +44,10 @@ HRESULT CellShell::put_Alias(BSTR value) {
 }
 
 HRESULT CellShell::get_parentcell(_KOBCellTraduction** value) {
-  return guarded(L"parentcell", [&] { out(value) = shellOf(cell_->parentcell()).detach(); });
+  return guarded(L"parentcell", [&] {
+    auto& result = out(value);
+    result = shellOf(cell_->parentcell()).detach();
+  });
 }
 
 HRESULT CellShell::putref_parentcell(_KOBCellTraduction* value) {
@@ -46,7 +55,10 @@ HRESULT CellShell::putref_parentcell(_KOBCellTraduction* value) {
 }
 
 HRESULT CellShell::get_ColCell(_KOBCollection** value) {
-  return guarded(L"ColCell", [&] { out(value) = shellOf(cell_->ColCell()).detach(); });
+  return guarded(L"ColCell", [&] {
+    auto& result = out(value);
+    result = shellOf(cell_->ColCell()).detach();
+  });
 }
 
 HRESULT CellShell::putref_ColCell(_KOBCollection* value) {
@@ -54,7 +66,10 @@ HRESULT CellShell::putref_ColCell(_KOBCollection* value) {
 }
 
 HRESULT CellShell::get_Traduction(_KOBTraductionObj** value) {
-  return guarded(L"Traduction", [&] { out(value) = shellOf(cell_->Traduction()).detach(); });
+  return guarded(L"Traduction", [&] {
+    auto& result = out(value);
+    result = shellOf(cell_->Traduction()).detach();
+  });
 }
 
 HRESULT CellShell::putref_Traduction(_KOBTraductionObj* value) {
@@ -62,7 +77,10 @@ HRESULT CellShell::putref_Traduction(_KOBTraductionObj* value) {
 }
 
 HRESULT CellShell::get_ColTraduction(_KOBCollection** value) {
-  return guarded(L"ColTraduction", [&] { out(value) = shellOf(cell_->ColTraduction()).detach(); });
+  return guarded(L"ColTraduction", [&] {
+    auto& result = out(value);
+    result = shellOf(cell_->ColTraduction()).detach();
+  });
 }
 
 HRESULT CellShell::putref_ColTraduction(_KOBCollection* value) {
@@ -70,7 +88,10 @@ HRESULT CellShell::putref_ColTraduction(_KOBCollection* value) {
 }
 
 HRESULT CellShell::get_ColLeft(_KOBCollection** value) {
-  return guarded(L"ColLeft", [&] { out(value) = shellOf(cell_->ColLeft()).detach(); });
+  return guarded(L"ColLeft", [&] {
+    auto& result = out(value);
+    result = shellOf(cell_->ColLeft()).detach();
+  });
 }
 
 HRESULT CellShell::putref_ColLeft(_KOBCollection* value) {
@@ -78,7 +99,10 @@ HRESULT CellShell::putref_ColLeft(_KOBCollection* value) {
 }
 
 HRESULT CellShell::get_ColWidth(_KOBCollection** value) {
-  return guarded(L"ColWidth", [&] { out(value) = shellOf(cell_->ColWidth()).detach(); });
+  return guarded(L"ColWidth", [&] {
+    auto& result = out(value);
+    result = shellOf(cell_->ColWidth()).detach();
+  });
 }
 
 HRESULT CellShell::putref_ColWidth(_KOBCollection* value) {
@@ -86,7 +110,10 @@ HRESULT CellShell::putref_ColWidth(_KOBCollection* value) {
 }
 
 HRESULT CellShell::get_m_left(LONG* value) {
-  return guarded(L"m_left", [&] { out(value) = cell_->m_left(); });
+  return guarded(L"m_left", [&] {
+    auto& result = out(value);
+    result = cell_->m_left();
+  });
 }
 
 HRESULT CellShell::put_m_left(LONG value) {
@@ -94,7 +121,10 @@ HRESULT CellShell::put_m_left(LONG value) {
 }
 
 HRESULT CellShell::get_m_width(LONG* value) {
-  return guarded(L"m_width", [&] { out(value) = cell_->m_width(); });
+  return guarded(L"m_width", [&] {
+    auto& result = out(value);
+    result = cell_->m_width();
+  });
 }
 
 HRESULT CellShell::put_m_width(LONG value) {
@@ -102,7 +132,10 @@ HRESULT CellShell::put_m_width(LONG value) {
 }
 
 HRESULT CellShell::get_TypeFeuille(LONG* value) {
-  return guarded(L"TypeFeuille", [&] { out(value) = cell_->TypeFeuille(); });
+  return guarded(L"TypeFeuille", [&] {
+    auto& result = out(value);
+    result = cell_->TypeFeuille();
+  });
 }
 
 HRESULT CellShell::put_TypeFeuille(LONG value) {
@@ -110,7 +143,10 @@ HRESULT CellShell::put_TypeFeuille(LONG value) {
 }
 
 HRESULT CellShell::get_TypeCell(LONG* value) {
-  return guarded(L"TypeCell", [&] { out(value) = cell_->TypeCell(); });
+  return guarded(L"TypeCell", [&] {
+    auto& result = out(value);
+    result = cell_->TypeCell();
+  });
 }
 
 HRESULT CellShell::put_TypeCell(LONG value) {

@@ -3,7 +3,58 @@
 
 #include "TypeLibrary.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
 namespace kob::automation {
+
+namespace {
+
+/// The arguments of a call by position, with the ones between that the host left out: not every system's
+/// DispInvoke copes with an argument that is left out in front of a named one.
+class ByPosition {
+ public:
+  /// `given` must outlive this.
+  explicit ByPosition(const DISPPARAMS& given) : parameters_(given) {
+    if (given.cNamedArgs == 0 || given.rgdispidNamedArgs[0] < 0) {
+      return;
+    }
+    const DISPID* const names = given.rgdispidNamedArgs;
+    const UINT positional = given.cArgs - given.cNamedArgs;
+    const DISPID last = *std::max_element(names, names + given.cNamedArgs);
+    if (last > mostArguments ||
+        *std::min_element(names, names + given.cNamedArgs) < static_cast<DISPID>(positional)) {
+      // Nobody's argument, or one that is given twice.
+      isValid_ = false;
+      return;
+    }
+    VARIANT missing{};
+    V_VT(&missing) = VT_ERROR;
+    V_ERROR(&missing) = DISP_E_PARAMNOTFOUND;
+    // Arguments stand in reverse order, and are the host's own also here.
+    arguments_.assign(static_cast<std::size_t>(last) + 1, missing);
+    std::copy_backward(given.rgvarg + given.cNamedArgs, given.rgvarg + given.cArgs, arguments_.end());
+    for (UINT i = 0; i < given.cNamedArgs; ++i) {
+      arguments_[static_cast<std::size_t>(last - names[i])] = given.rgvarg[i];
+    }
+    parameters_ = {arguments_.data(), nullptr, static_cast<UINT>(arguments_.size()), 0};
+  }
+  ByPosition(const ByPosition&) = delete;
+  ByPosition& operator=(const ByPosition&) = delete;
+
+  bool isValid() const noexcept { return isValid_; }
+  DISPPARAMS* get() noexcept { return &parameters_; }
+
+ private:
+  static constexpr DISPID mostArguments = 31;
+
+  bool isValid_ = true;
+  std::vector<VARIANT> arguments_;
+  DISPPARAMS parameters_;
+};
+
+}  // namespace
 
 HRESULT typeInfo(REFIID id, UINT index, ITypeInfo** info) noexcept {
   if (info == nullptr) {
@@ -34,8 +85,15 @@ HRESULT invoke(REFIID id, void* object, DISPID member, WORD flags, DISPPARAMS* p
   if ((flags & reading) != 0) {
     flags |= reading;
   }
+  if (parameters == nullptr) {
+    return E_INVALIDARG;
+  }
+  ByPosition arguments(*parameters);
+  if (!arguments.isValid()) {
+    return DISP_E_PARAMNOTFOUND;
+  }
   const auto attempt = [&](WORD as) {
-    return DispInvoke(object, info, member, as, parameters, result, exception, wrongArgument);
+    return DispInvoke(object, info, member, as, arguments.get(), result, exception, wrongArgument);
   };
   HRESULT done = attempt(flags);
   if (done == DISP_E_MEMBERNOTFOUND && flags == DISPATCH_PROPERTYPUT) {

@@ -21,7 +21,10 @@ void* EntryShell::otherPart(REFIID id) noexcept {
 }
 
 HRESULT EntryShell::get_ColTraduction(_KOBCollection** value) {
-  return guarded(L"ColTraduction", [&] { out(value) = shellOf(entry_->ColTraduction()).detach(); });
+  return guarded(L"ColTraduction", [&] {
+    auto& result = out(value);
+    result = shellOf(entry_->ColTraduction()).detach();
+  });
 }
 
 HRESULT EntryShell::putref_ColTraduction(_KOBCollection* value) {
@@ -29,7 +32,10 @@ HRESULT EntryShell::putref_ColTraduction(_KOBCollection* value) {
 }
 
 HRESULT EntryShell::get_nom(BSTR* value) {
-  return guarded(L"nom", [&] { out(value) = newBstr(entry_->nom()); });
+  return guarded(L"nom", [&] {
+    auto& result = out(value);
+    result = newBstr(entry_->nom());
+  });
 }
 
 HRESULT EntryShell::put_nom(BSTR value) {

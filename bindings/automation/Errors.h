@@ -25,7 +25,7 @@ HRESULT resultOf(FailureKind kind) noexcept;
 /// it: source "KOBTraduction.<className>", and a description that begins with the member's name.
 HRESULT reportFailure(const wchar_t* className, const wchar_t* member) noexcept;
 
-/// The place for a result, cleared; a host that gives none gets E_POINTER.
+/// The place for a result, cleared, before anything else is done; a host that gives none gets E_POINTER.
 template <class T>
 T& out(T* place) {
   if (place == nullptr) {

@@ -26,7 +26,10 @@ HRESULT ListShell::Add(VARIANT Item, VARIANT Before) {
 }
 
 HRESULT ListShell::get_Count(LONG* value) {
-  return guarded(L"Count", [&] { out(value) = list_->count(); });
+  return guarded(L"Count", [&] {
+    auto& result = out(value);
+    result = list_->count();
+  });
 }
 
 HRESULT ListShell::Remove(LONG Index) {
@@ -34,7 +37,10 @@ HRESULT ListShell::Remove(LONG Index) {
 }
 
 HRESULT ListShell::get__NewEnum(IUnknown** value) {
-  return guarded(L"_NewEnum", [&] { out(value) = new ListEnumerator(*this); });
+  return guarded(L"_NewEnum", [&] {
+    auto& result = out(value);
+    result = new ListEnumerator(*this);
+  });
 }
 
 }  // namespace kob::automation

@@ -27,7 +27,10 @@ void* ModelShell::otherPart(REFIID id) noexcept {
 }
 
 HRESULT ModelShell::get_Fichier(BSTR* value) {
-  return guarded(L"Fichier", [&] { out(value) = newBstr(model_->Fichier()); });
+  return guarded(L"Fichier", [&] {
+    auto& result = out(value);
+    result = newBstr(model_->Fichier());
+  });
 }
 
 HRESULT ModelShell::put_Fichier(BSTR value) {
@@ -35,11 +38,17 @@ HRESULT ModelShell::put_Fichier(BSTR value) {
 }
 
 HRESULT ModelShell::get_Racine(_KOBCellTraduction** value) {
-  return guarded(L"Racine", [&] { out(value) = shellOf(model_->Racine()).detach(); });
+  return guarded(L"Racine", [&] {
+    auto& result = out(value);
+    result = shellOf(model_->Racine()).detach();
+  });
 }
 
 HRESULT ModelShell::get_NbLangues(LONG* value) {
-  return guarded(L"NbLangues", [&] { out(value) = model_->NbLangues(); });
+  return guarded(L"NbLangues", [&] {
+    auto& result = out(value);
+    result = model_->NbLangues();
+  });
 }
 
 HRESULT ModelShell::put_NbLangues(LONG value) {
@@ -87,15 +96,24 @@ HRESULT ModelShell::AddModele(_KOBModeleTraduction* Modele) {
 }
 
 HRESULT ModelShell::GetCell(BSTR path, _KOBCellTraduction** cell) {
-  return guarded(L"GetCell", [&] { out(cell) = shellOf(model_->GetCell(viewOf(path))).detach(); });
+  return guarded(L"GetCell", [&] {
+    auto& result = out(cell);
+    result = shellOf(model_->GetCell(viewOf(path))).detach();
+  });
 }
 
 HRESULT ModelShell::Save(BSTR Filename, VARIANT_BOOL* saved) {
-  return guarded(L"Save", [&] { out(saved) = booleanFor(model_->Save(viewOf(Filename))); });
+  return guarded(L"Save", [&] {
+    auto& result = out(saved);
+    result = booleanFor(model_->Save(viewOf(Filename)));
+  });
 }
 
 HRESULT ModelShell::Load(BSTR Filename, VARIANT_BOOL* loaded) {
-  return guarded(L"Load", [&] { out(loaded) = booleanFor(model_->Load(viewOf(Filename))); });
+  return guarded(L"Load", [&] {
+    auto& result = out(loaded);
+    result = booleanFor(model_->Load(viewOf(Filename)));
+  });
 }
 
 HRESULT ModelShell::Show(LONG mode, BSTR path, VARIANT* empty) {
@@ -106,12 +124,17 @@ HRESULT ModelShell::Show(LONG mode, BSTR path, VARIANT* empty) {
 }
 
 HRESULT ModelShell::GetPath(VARIANT Ctrl, BSTR module, BSTR* path) {
-  return guarded(L"GetPath", [&] { out(path) = newBstr(model_->GetPath(hostOf(Ctrl), viewOf(module))); });
+  return guarded(L"GetPath", [&] {
+    auto& result = out(path);
+    result = newBstr(model_->GetPath(hostOf(Ctrl), viewOf(module)));
+  });
 }
 
 HRESULT ModelShell::GetTraduction(BSTR path, LONG langue, BSTR nom, BSTR* text) {
-  return guarded(L"GetTraduction",
-                 [&] { out(text) = newBstr(model_->GetTraduction(viewOf(path), langue, viewOf(nom))); });
+  return guarded(L"GetTraduction", [&] {
+    auto& result = out(text);
+    result = newBstr(model_->GetTraduction(viewOf(path), langue, viewOf(nom)));
+  });
 }
 
 }  // namespace kob::automation

@@ -54,8 +54,10 @@ HRESULT PersistPart::getProgID(VARIANT* progId) {
 }
 
 HRESULT PersistPart::getProgIdTable(_KOBCollection** table) {
-  return guarded(whole_, className_, L"getProgIdTable",
-                 [&] { out(table) = shellOf(object_.getProgIdTable()).detach(); });
+  return guarded(whole_, className_, L"getProgIdTable", [&] {
+    auto& result = out(table);
+    result = shellOf(object_.getProgIdTable()).detach();
+  });
 }
 
 HRESULT PersistPart::read(IDispatch* stream) {
