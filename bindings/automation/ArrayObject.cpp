@@ -53,7 +53,7 @@ std::optional<Value> ArrayObject::get(Property property) {
 }
 
 std::optional<Value> ArrayObject::item(std::int32_t index) {
-  return index < 1 || index > count() ? std::nullopt : element(lowest() + (index - 1), Property::Buttons);
+  return index < 1 || index > count() ? std::nullopt : element(lowest() + (index - 1));
 }
 
 std::optional<std::vector<HostRef>> ArrayObject::enumerate() {
@@ -66,22 +66,21 @@ std::optional<std::vector<HostRef>> ArrayObject::enumerate() {
   return members;
 }
 
-std::optional<Value> ArrayObject::element(std::int32_t number, Property property) const {
+std::optional<Value> ArrayObject::element(LONG number) const {
   VARTYPE type = VT_EMPTY;
   if (array() == nullptr || FAILED(SafeArrayGetVartype(array(), &type))) {
     return std::nullopt;
   }
-  LONG place = number;
   Variant found;
   void* const to =
       type == VT_VARIANT ? static_cast<void*>(found.get()) : static_cast<void*>(&V_BYREF(found.get()));
-  if (type == VT_DECIMAL || type == VT_RECORD || FAILED(SafeArrayGetElement(array(), &place, to))) {
+  if (type == VT_DECIMAL || type == VT_RECORD || FAILED(SafeArrayGetElement(array(), &number, to))) {
     return std::nullopt;
   }
   if (type != VT_VARIANT) {
     V_VT(found.get()) = type;
   }
-  return fromVariant(*found, kindOf(property));
+  return fromVariant(*found, ValueKind::Object);
 }
 
 }  // namespace kob::automation

@@ -23,13 +23,12 @@ class ArrayObject final : public HostObject {
   std::optional<Value> item(std::int32_t index) override;
   std::optional<std::vector<HostRef>> enumerate() override;
 
-  /// An element by the host's own number, as a text or an object.
-  std::optional<Value> element(std::int32_t number, Property property) const;
-
  private:
   SAFEARRAY* array() const noexcept;
   LONG lowest() const noexcept;
   LONG count() const noexcept;
+  /// An element by the host's own number.
+  std::optional<Value> element(LONG number) const;
 
   Variant array_;
 };

@@ -1,0 +1,365 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+// Live objects of a host as the engine sees them, asked directly.
+#include "DispatchDouble.h"
+#include "VariantEnumerator.h"
+
+#include <bindings/automation/HostValue.h>
+#include <kobtraduction/base/Failure.h>
+
+#include <limits>
+#include <optional>
+
+namespace kob::testing {
+
+namespace {
+
+HostRef hostOf(const ComPtr<DispatchDouble>& object) {
+  return automation::hostOf(static_cast<IUnknown*>(object.get()));
+}
+
+std::optional<Text> textOf(const HostRef& object, Property property) {
+  const std::optional<Value> value = object->get(property);
+  return value ? value->asText() : std::nullopt;
+}
+
+std::optional<std::int32_t> longOf(const HostRef& object, Property property) {
+  const std::optional<Value> value = object->get(property);
+  return value ? value->asLong() : std::nullopt;
+}
+
+Variant raw(VARTYPE type) {
+  Variant value;
+  value.get()->vt = type;
+  return value;
+}
+
+Variant array(const std::vector<ComPtr<DispatchDouble>>& elements, LONG lowest = 0,
+              VARTYPE type = VT_VARIANT) {
+  SAFEARRAYBOUND bound = {static_cast<ULONG>(elements.size()), lowest};
+  Variant value = raw(static_cast<VARTYPE>(VT_ARRAY | type));
+  value.get()->parray = SafeArrayCreate(type, 1, &bound);
+  for (const ComPtr<DispatchDouble>& element : elements) {
+    LONG place = lowest++;
+    Variant held(static_cast<IDispatch*>(element.get()));
+    SafeArrayPutElement(
+        value.get()->parray, &place,
+        type == VT_VARIANT ? static_cast<void*>(held.get()) : static_cast<void*>(element.get()));
+  }
+  return value;
+}
+
+std::string namesOf(const std::optional<std::vector<HostRef>>& members) {
+  if (!members) {
+    return "failed";
+  }
+  std::string names;
+  for (const HostRef& member : *members) {
+    const std::optional<Text> name = member != nullptr ? textOf(member, Property::Name) : Text(u"nothing");
+    names += (names.empty() ? "" : " ") + (name ? toUtf8(*name) : "?");
+  }
+  return names;
+}
+
+ComPtr<DispatchDouble> named(TextView name) {
+  ComPtr<DispatchDouble> object = makeDouble();
+  object->set(u"Name", Variant(name));
+  return object;
+}
+
+}  // namespace
+
+class HostObjectTest : public ::testing::Test {
+ protected:
+  ComPtr<DispatchDouble> object_ = makeDouble();
+  HostRef host_ = hostOf(object_);
+};
+
+TEST_F(HostObjectTest, AnswersWhatItHasAndFailsForTheRest) {
+  object_->set(u"NAME", Variant(u"Ok"));
+  EXPECT_EQ(textOf(host_, Property::Name), u"Ok");
+  EXPECT_FALSE(host_->get(Property::Caption));
+  EXPECT_FALSE(host_->set(Property::Caption, Value(u"x")));
+  EXPECT_FALSE(host_->getIndexed(Property::ButtonMenus, 1));
+  EXPECT_FALSE(host_->setIndexed(Property::TabCaption, 0, Value(u"x")));
+  EXPECT_FALSE(host_->item(1));
+  EXPECT_FALSE(host_->enumerate());
+}
+
+TEST_F(HostObjectTest, AMemberThatAppearsLaterIsFound) {
+  EXPECT_FALSE(host_->get(Property::Tag));
+  object_->set(u"Tag", Variant(u"x"));
+  EXPECT_EQ(textOf(host_, Property::Tag), u"x");
+}
+
+TEST_F(HostObjectTest, WritesTextsAndNumbers) {
+  object_->set(u"Caption", Variant());
+  object_->set(u"Left", Variant());
+  EXPECT_TRUE(host_->set(Property::Caption, Value(u"é")));
+  EXPECT_EQ(object_->value(u"Caption").type(), VT_BSTR);
+  EXPECT_EQ(object_->value(u"Caption").text(), u"é");
+  EXPECT_TRUE(host_->assignText(Property::Caption, u"λ"));
+  EXPECT_EQ(object_->value(u"Caption").text(), u"λ");
+  EXPECT_TRUE(host_->set(Property::Left, Value(std::int32_t{7})));
+  EXPECT_EQ(object_->value(u"Left").type(), VT_I4);
+  EXPECT_TRUE(host_->set(Property::Left, Value(1e12)));
+  EXPECT_EQ(object_->value(u"Left").type(), VT_R8);
+  EXPECT_FALSE(host_->set(Property::Left, Value(host_)));
+}
+
+TEST_F(HostObjectTest, NumbersOfEveryTypeAreRead) {
+  const auto read = [&](VARTYPE type, LONGLONG number) {
+    Variant value(std::int32_t{static_cast<std::int32_t>(number)});
+    Variant converted;
+    EXPECT_EQ(VariantChangeType(converted.get(), value.get(), 0, type), S_OK);
+    object_->set(u"Index", converted);
+    return longOf(host_, Property::Index);
+  };
+  for (const VARTYPE type : {VT_I1, VT_UI1, VT_I2, VT_UI2, VT_I4, VT_UI4, VT_I8, VT_UI8, VT_INT, VT_UINT,
+                             VT_R4, VT_R8, VT_CY, VT_DATE, VT_DECIMAL, VT_BSTR}) {
+    EXPECT_EQ(read(type, 12), 12) << type;
+  }
+  Variant large = raw(VT_UI4);
+  large.get()->ulVal = 4000000000U;
+  object_->set(u"Index", large);
+  EXPECT_FALSE(longOf(host_, Property::Index));
+  EXPECT_EQ(host_->get(Property::Index)->asDouble(), 4000000000.0);
+}
+
+TEST_F(HostObjectTest, AnUninitialisedVariableReadsAsAutomationReadsIt) {
+  for (const TextView name : {u"Caption", u"Index", u"Visible", u"Container"}) {
+    object_->set(name, Variant());
+  }
+  EXPECT_EQ(textOf(host_, Property::Caption), u"");
+  EXPECT_EQ(longOf(host_, Property::Index), 0);
+  EXPECT_EQ(host_->get(Property::Visible)->asBoolean(), false);
+  EXPECT_TRUE(host_->get(Property::Container)->isNothing());
+}
+
+TEST_F(HostObjectTest, NullHasNoTextAndNoNumber) {
+  object_->set(u"Caption", raw(VT_NULL));
+  object_->set(u"Index", raw(VT_NULL));
+  EXPECT_FALSE(textOf(host_, Property::Caption));
+  EXPECT_FALSE(longOf(host_, Property::Index));
+}
+
+TEST_F(HostObjectTest, ValuesThatMakeNoSenseAreFailures) {
+  Variant error = raw(VT_ERROR);
+  error.get()->scode = DISP_E_PARAMNOTFOUND;
+  object_->set(u"Caption", error);
+  EXPECT_FALSE(host_->get(Property::Caption));
+  object_->set(u"Caption", array({}));
+  EXPECT_FALSE(host_->get(Property::Caption));
+  for (const VARTYPE type :
+       {VT_BYREF | VT_BSTR, VT_BYREF | VT_VARIANT, VT_BYREF | VT_I4, VT_BYREF | VT_DISPATCH,
+        VT_ARRAY | VT_VARIANT, VT_BYREF | VT_ARRAY | VT_VARIANT, int{VT_VOID}, int{VT_RECORD}, 999}) {
+    object_->setFunction(u"Controls", [type](const Call& call) {
+      VARIANT nonsense = {};
+      nonsense.vt = type;
+      return call.giveRaw(nonsense);
+    });
+    const std::optional<Value> controls = host_->get(Property::Controls);
+    EXPECT_TRUE(!controls || controls->isNothing()) << type;
+  }
+}
+
+TEST_F(HostObjectTest, AStringThatIsNoneIsEmpty) {
+  object_->set(u"Caption", raw(VT_BSTR));
+  EXPECT_EQ(textOf(host_, Property::Caption), u"");
+  Text text = u"kept ";
+  EXPECT_TRUE(host_->appendText(Property::Caption, text));
+  EXPECT_EQ(text, u"kept ");
+}
+
+TEST_F(HostObjectTest, AnObjectWithoutDispatchIsAFailure) {
+  ComPtr<IUnknown> lock;
+  ASSERT_EQ(CreateErrorInfo(reinterpret_cast<ICreateErrorInfo**>(lock.out())), S_OK);
+  Variant value = raw(VT_UNKNOWN);
+  value.get()->punkVal = lock.get();
+  lock->AddRef();
+  object_->set(u"Container", value);
+  EXPECT_FALSE(host_->get(Property::Container));
+  object_->set(u"Container", raw(VT_UNKNOWN));
+  EXPECT_TRUE(host_->get(Property::Container)->isNothing());
+}
+
+TEST_F(HostObjectTest, AnObjectStandsForItsDefaultValue) {
+  const ComPtr<DispatchDouble> text = makeDouble();
+  text->setDefault([](const Call& call) { return call.give(Variant(u"by default")); });
+  object_->set(u"Caption", text);
+  EXPECT_EQ(textOf(host_, Property::Caption), u"by default");
+  // One that stands for itself would never end.
+  text->setDefault([&](const Call& call) { return call.give(Variant(static_cast<IDispatch*>(text.get()))); });
+  EXPECT_FALSE(host_->get(Property::Caption));
+  text->setDefault(nullptr);
+  text->setDefault([](const Call&) { return E_FAIL; });
+  EXPECT_FALSE(host_->get(Property::Caption));
+}
+
+TEST_F(HostObjectTest, AMethodIsReadToo) {
+  object_->setFunction(u"Name", [](const Call& call) {
+    return call.isMethod() ? call.give(Variant(u"called")) : DISP_E_MEMBERNOTFOUND;
+  });
+  EXPECT_EQ(textOf(host_, Property::Name), u"called");
+}
+
+TEST_F(HostObjectTest, AMemberThatRaisesIsAskedOnce) {
+  object_->setFunction(u"ButtonMenus", [](const Call&) { return DISP_E_EXCEPTION; });
+  EXPECT_FALSE(host_->getIndexed(Property::ButtonMenus, 1));
+  EXPECT_EQ(object_->calls, std::vector<std::string>{"get ButtonMenus"});
+  object_->calls.clear();
+  object_->setFunction(u"TabCaption", [](const Call&) { return static_cast<HRESULT>(0x80020101L); });
+  EXPECT_FALSE(host_->setIndexed(Property::TabCaption, 0, Value(u"x")));
+  EXPECT_EQ(object_->calls, std::vector<std::string>{"put TabCaption"});
+}
+
+TEST_F(HostObjectTest, DeadAnswersFailedToEverything) {
+  object_->set(u"Name", Variant(u"Ok"));
+  EXPECT_TRUE(host_->get(Property::Name));
+  object_->die(static_cast<HRESULT>(0x800706BAL));  // The RPC server is unavailable.
+  EXPECT_FALSE(host_->get(Property::Name));
+  EXPECT_FALSE(host_->get(Property::Tag));
+  EXPECT_FALSE(host_->set(Property::Name, Value(u"x")));
+  EXPECT_FALSE(host_->assignText(Property::Name, u"x"));
+  Text text;
+  EXPECT_FALSE(host_->appendText(Property::Name, text));
+  EXPECT_FALSE(host_->item(1));
+  EXPECT_FALSE(host_->enumerate());
+  EXPECT_FALSE(host_->getIndexed(Property::Name, 1));
+  EXPECT_FALSE(host_->setIndexed(Property::Name, 1, Value(u"x")));
+}
+
+TEST_F(HostObjectTest, IsTheSameHoweverItIsReached) {
+  object_->set(u"Container", object_);
+  const HostRef again = hostOf(object_);
+  EXPECT_EQ(host_->identity(), again->identity());
+  EXPECT_EQ(host_->get(Property::Container)->asObject().value()->identity(), host_->identity());
+  EXPECT_NE(hostOf(makeDouble())->identity(), host_->identity());
+  object_->set(u"Container", Variant());
+}
+
+TEST_F(HostObjectTest, CollectionsAreEnumeratedOrCounted) {
+  EXPECT_EQ(namesOf(hostOf(makeCollection({named(u"a"), named(u"b")}, true))->enumerate()), "a b");
+  EXPECT_EQ(namesOf(hostOf(makeCollection({named(u"a"), named(u"b")}))->enumerate()), "a b");
+  EXPECT_EQ(namesOf(hostOf(makeCollection({}))->enumerate()), "");
+}
+
+TEST_F(HostObjectTest, AnEnumerationThatFailsIsAFailure) {
+  const std::vector<Variant> items = {Variant(static_cast<IDispatch*>(named(u"a").get()))};
+  object_->setEnumerator([items](const Call& call) { return giveEnumerator(call, items, E_FAIL); });
+  EXPECT_EQ(namesOf(host_->enumerate()), "failed");
+  // An enumerator that says there is more and gives nothing.
+  object_->setEnumerator([items](const Call& call) { return giveEnumerator(call, items, S_OK); });
+  EXPECT_EQ(namesOf(host_->enumerate()), "a");
+}
+
+TEST_F(HostObjectTest, WhatIsNoEnumeratorIsCounted) {
+  const ComPtr<DispatchDouble> collection = makeCollection({named(u"a")});
+  for (const VARTYPE type : {VT_EMPTY, VT_I4, VT_UNKNOWN, VT_DISPATCH}) {
+    collection->setEnumerator([type](const Call& call) {
+      VARIANT none = {};
+      none.vt = type;
+      return call.giveRaw(none);
+    });
+    EXPECT_EQ(namesOf(hostOf(collection)->enumerate()), "a");
+  }
+}
+
+TEST_F(HostObjectTest, MembersThatAreNoObjectsAreNothing) {
+  const std::vector<Variant> items = {Variant(u"text"), Variant(static_cast<IDispatch*>(named(u"a").get())),
+                                      Variant(static_cast<IDispatch*>(nullptr)), Variant(std::int32_t{3})};
+  object_->setEnumerator([items](const Call& call) { return giveEnumerator(call, items); });
+  EXPECT_EQ(namesOf(host_->enumerate()), "nothing a nothing nothing");
+}
+
+TEST_F(HostObjectTest, ACountThatIsTooHighIsAFailure) {
+  const ComPtr<DispatchDouble> collection = makeCollection({named(u"a")});
+  collection->set(u"Count", Variant(std::int32_t{2}));
+  EXPECT_EQ(namesOf(hostOf(collection)->enumerate()), "failed");
+  collection->set(u"Count", Variant(std::int32_t{-1}));
+  EXPECT_EQ(namesOf(hostOf(collection)->enumerate()), "");
+  collection->set(u"Count", Variant(u"many"));
+  EXPECT_EQ(namesOf(hostOf(collection)->enumerate()), "failed");
+}
+
+TEST_F(HostObjectTest, ArraysAreCollectionsThatCountFromOne) {
+  for (const LONG lowest : {0L, 1L, -3L}) {
+    object_->set(u"Buttons", array({named(u"a"), named(u"b")}, lowest));
+    const HostRef buttons = host_->get(Property::Buttons)->asObject().value();
+    EXPECT_EQ(longOf(buttons, Property::Count), 2);
+    EXPECT_EQ(textOf(buttons->item(1)->asObject().value(), Property::Name), u"a");
+    EXPECT_EQ(textOf(buttons->item(2)->asObject().value(), Property::Name), u"b");
+    EXPECT_FALSE(buttons->item(0));
+    EXPECT_FALSE(buttons->item(3));
+    EXPECT_FALSE(buttons->item(std::numeric_limits<std::int32_t>::min()));
+    EXPECT_EQ(namesOf(buttons->enumerate()), "a b");
+    EXPECT_FALSE(buttons->get(Property::Name));
+  }
+}
+
+TEST_F(HostObjectTest, ArraysOfObjectsAndOfOtherThings) {
+  object_->set(u"Controls", array({named(u"a"), nullptr}, 0, VT_DISPATCH));
+  EXPECT_EQ(namesOf(host_->get(Property::Controls)->asObject().value()->enumerate()), "a nothing");
+  SAFEARRAYBOUND bounds[2] = {{2, 0}, {2, 0}};
+  Variant table = raw(VT_ARRAY | VT_VARIANT);
+  table.get()->parray = SafeArrayCreate(VT_VARIANT, 2, bounds);
+  object_->set(u"Controls", table);
+  EXPECT_FALSE(host_->get(Property::Controls));
+  SAFEARRAYBOUND bound = {3, 0};
+  Variant numbers = raw(VT_ARRAY | VT_I4);
+  numbers.get()->parray = SafeArrayCreate(VT_I4, 1, &bound);
+  object_->set(u"Controls", numbers);
+  EXPECT_EQ(namesOf(host_->get(Property::Controls)->asObject().value()->enumerate()),
+            "nothing nothing nothing");
+}
+
+TEST_F(HostObjectTest, ArraysOfScriptsAreObjectsWithNumbersForNames) {
+  object_->set(u"length", Variant(std::int32_t{2}));
+  object_->set(u"0", named(u"a"));
+  object_->set(u"1", named(u"b"));
+  EXPECT_EQ(longOf(host_, Property::Count), 2);
+  EXPECT_EQ(namesOf(host_->enumerate()), "a b");
+  EXPECT_EQ(textOf(host_->item(2)->asObject().value(), Property::Name), u"b");
+  EXPECT_FALSE(host_->item(3));
+}
+
+TEST_F(HostObjectTest, IndexedPropertiesAreAskedWithTheIndexFirst) {
+  std::vector<Text> captions = {u"a", u"b"};
+  object_->setFunction(u"TabCaption", [&](const Call& call) {
+    const auto place = static_cast<std::size_t>(call.argument(0).number());
+    if (call.isPut()) {
+      captions[place] = call.argument(1).text();
+      return S_OK;
+    }
+    return call.give(Variant(TextView(captions[place])));
+  });
+  EXPECT_EQ(host_->getIndexed(Property::TabCaption, 1)->asText(), u"b");
+  EXPECT_TRUE(host_->setIndexed(Property::TabCaption, 1, Value(u"c")));
+  EXPECT_EQ(captions[1], u"c");
+}
+
+TEST_F(HostObjectTest, APlainMemberIsIndexedThroughWhatItHolds) {
+  object_->set(u"ButtonMenus", makeCollection({named(u"a"), named(u"b")}));
+  EXPECT_EQ(textOf(host_->getIndexed(Property::ButtonMenus, 2)->asObject().value(), Property::Name), u"b");
+  EXPECT_FALSE(host_->getIndexed(Property::ButtonMenus, 3));
+  object_->set(u"ButtonMenus", array({named(u"c")}));
+  EXPECT_EQ(textOf(host_->getIndexed(Property::ButtonMenus, 1)->asObject().value(), Property::Name), u"c");
+  // Captions of tabs in an array of a script.
+  const ComPtr<DispatchDouble> captions = makeDouble();
+  captions->set(u"0", Variant(u"x"));
+  object_->set(u"TabCaption", captions);
+  EXPECT_TRUE(host_->setIndexed(Property::TabCaption, 0, Value(u"y")));
+  EXPECT_EQ(captions->value(u"0").text(), u"y");
+  EXPECT_FALSE(host_->setIndexed(Property::TabCaption, 1, Value(u"y")));
+  // A copy of an array cannot be written through.
+  object_->set(u"TabCaption", array({named(u"c")}));
+  EXPECT_FALSE(host_->setIndexed(Property::TabCaption, 0, Value(u"y")));
+}
+
+TEST_F(HostObjectTest, NothingIsNoHost) {
+  EXPECT_EQ(automation::hostOf(static_cast<IUnknown*>(nullptr)), nullptr);
+  EXPECT_EQ(automation::hostOf(*raw(VT_EMPTY).get()), nullptr);
+  EXPECT_EQ(automation::hostOf(*raw(VT_NULL).get()), nullptr);
+  EXPECT_THROW(automation::hostOf(*Variant(u"text").get()), Failure);
+}
+
+}  // namespace kob::testing
