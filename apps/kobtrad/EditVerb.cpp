@@ -9,6 +9,7 @@
 #include "Verb.h"
 
 #include <kobtraduction/component/Global_Util.h>
+#include <kobtraduction/editor/ShowUnsaved.h>
 #include <kobtraductionqt/KOBTraductionQt.h>
 #include <kobtraductionqt/QtMessageBoxes.h>
 #include <kobtraductionqt/QtWidgetSet.h>
@@ -28,17 +29,20 @@ struct EditOptions {
   std::string path;
 };
 
-void makeFit(KOBModeleTraduction& model, const std::string& file) {
-  if (const std::string raised = makeSixLanguages(model, file); !raised.empty()) {
+/// Whether the model had to be changed for the editor.
+bool makeFit(KOBModeleTraduction& model, const std::string& file) {
+  const std::string raised = makeSixLanguages(model, file);
+  if (!raised.empty()) {
     tell(raised);
   }
+  return !raised.empty();
 }
 
-/// Asks what is to become of the copy that a crash has left.
-void offer(RecoveryCopy& recovery, const std::string& file) {
+/// Asks what is to become of the copy that a crash has left; whether it is in the model now.
+bool offer(RecoveryCopy& recovery, const std::string& file) {
   const QDateTime left = recovery.leftBehind();
   if (!left.isValid()) {
-    return;
+    return false;
   }
   const QString question =
       QStringLiteral("The editor was ended before \"%1\" was saved. Take over what was kept on %2?")
@@ -47,9 +51,11 @@ void offer(RecoveryCopy& recovery, const std::string& file) {
     recovery.putAside();
   } else if (recovery.takeOver()) {
     tell("took over " + recovery.copy().toStdString() + "; it is in " + file + " once you save");
+    return true;
   } else {
     tell(recovery.copy().toStdString() + " cannot be read, and is left where it is");
   }
+  return false;
 }
 
 Status editOnScreen(const EditOptions& options) {
@@ -59,7 +65,7 @@ Status editOnScreen(const EditOptions& options) {
   if (!path.empty()) {
     cellAt(model, options.path);
   }
-  makeFit(model, options.file);
+  bool isUnsaved = makeFit(model, options.file);
   const Toolkit toolkit(Toolkit::Screen::Needed);
   // The question before the editor is not the last window.
   QApplication::setQuitOnLastWindowClosed(false);
@@ -69,10 +75,14 @@ Status editOnScreen(const EditOptions& options) {
   }
   qt::QtMessageBoxes boxes;
   qt::QtWidgetSet widgets;
-  offer(recovery, options.file);
-  makeFit(model, options.file);
+  isUnsaved = offer(recovery, options.file) || isUnsaved;
+  isUnsaved = makeFit(model, options.file) || isUnsaved;
   recovery.start();
-  model.Show(options.mode, path);
+  if (isUnsaved) {
+    showUnsaved(model, options.mode, path);
+  } else {
+    model.Show(options.mode, path);
+  }
   recovery.finish();
   return Status::Fine;
 }

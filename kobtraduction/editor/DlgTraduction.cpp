@@ -2,6 +2,7 @@
 #include <kobtraduction/base/Failure.h>
 #include <kobtraduction/editor/DlgRecherche.h>
 #include <kobtraduction/editor/DlgTraduction.h>
+#include <kobtraduction/editor/ShowUnsaved.h>
 
 #include <utility>
 
@@ -21,6 +22,12 @@ WidgetSet& widgetsOfThread() {
 
 void KOBModeleTraduction::Show(std::int32_t mode, TextView path) {
   DlgTraduction dialog(widgetsOfThread(), *this, path.empty() ? nullptr : GetCell(path), mode);
+  dialog.Show();
+}
+
+void showUnsaved(KOBModeleTraduction& model, std::int32_t mode, TextView path) {
+  DlgTraduction dialog(widgetsOfThread(), model, path.empty() ? nullptr : model.GetCell(path), mode);
+  dialog.setUnsaved();
   dialog.Show();
 }
 

@@ -32,6 +32,8 @@ class DlgTraduction {
   DlgTraduction& operator=(const DlgTraduction&) = delete;
   ~DlgTraduction();
 
+  /// The model differs from its file before anything is done.
+  void setUnsaved() { changed(); }
   /// Returns when a person has closed the editor.
   void Show();
 

@@ -2,6 +2,8 @@
 #include "EditorTest.h"
 #include "tests/doubles/ScriptedService.h"
 
+#include <kobtraduction/editor/ShowUnsaved.h>
+
 #include <stdexcept>
 
 namespace kob::testing {
@@ -177,6 +179,18 @@ TEST_F(EditorSaving, TheStatusLineTellsWhileNothingIsRecorded) {
     person.press(u"bAdd");
     EXPECT_EQ(person.caption(u"lbStatus"), u"");
   });
+}
+
+TEST_F(EditorSaving, AModelThatIsShownUnsavedBearsTheMarkUntilItIsSaved) {
+  model.setFichier(u"a.trad");
+  widgets.whenShown(DialogKind::Traduction, [](Person& person) {
+    EXPECT_TRUE(person.window.isModified());
+    EXPECT_EQ(person.selectedTag(), u"App\\Form");
+    person.chooseMenu(u"m_Save");
+    EXPECT_FALSE(person.window.isModified());
+  });
+  showUnsaved(model, full, u"App\\Form");
+  EXPECT_EQ(service.takeCalls(), "save \"a.trad\" mode=1\n");
 }
 
 }  // namespace

@@ -13,6 +13,8 @@ import harness
 
 CANCEL = "Commande\\BtnAnnuler"
 PATIENCE = 30
+# In a title: not saved.
+MARK = "*"
 
 
 class Refusals(harness.CommandTest):
@@ -72,6 +74,11 @@ class OnScreen(harness.CommandTest):
         self.hands("search", "--sync", "--onlyvisible", "--name", title, "windowfocus", "--sync")
         time.sleep(0.3)
 
+    def title(self):
+        return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Traduction", "getwindowname"],
+                              env=self.environment, check=True, timeout=PATIENCE, stdout=subprocess.PIPE,
+                              encoding="utf-8").stdout
+
     def type(self, text):
         """Puts a text into the box of language 2."""
         self.hands("key", "ctrl+2", "ctrl+a")
@@ -95,7 +102,9 @@ class OnScreen(harness.CommandTest):
     def test_what_is_saved_is_in_the_file(self):
         editor = self.open("--path", CANCEL)
         self.focus("^Traduction")
+        self.assertNotIn(MARK, self.title())
         self.type("Cancel")
+        self.wait_for(lambda: MARK in self.title())
         self.hands("key", "ctrl+s")
         self.wait_for(lambda: self.text() == "Cancel\n")
         self.assertEqual(self.close(editor), "")
@@ -128,8 +137,10 @@ class OnScreen(harness.CommandTest):
         self.focus("^kobtrad")
         self.hands("key", "alt+y")
         self.focus("^Traduction")
+        self.assertIn(MARK, self.title(), "what was taken over is not in the file")
         self.hands("key", "ctrl+s")
         self.wait_for(lambda: self.text() == "Cancel\n")
+        self.wait_for(lambda: MARK not in self.title())
         self.assertIn("took over app.trad.recovery", self.close(editor))
         self.assertEqual(self.names(), ["app.trad"])
 
