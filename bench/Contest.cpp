@@ -16,6 +16,8 @@ double secondsOf(const timeval& time) {
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
 }
 
+}  // namespace
+
 /// The processor time of this thread, on which all that is timed runs, and of the commands that it has run:
 /// what others do on the machine meanwhile does not count, which would otherwise hit whoever needs longer
 /// than a time slice more often than the others.
@@ -27,8 +29,6 @@ double now(Clock clock) {
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9 +
          secondsOf(commands.ru_utime) + secondsOf(commands.ru_stime);
 }
-
-}  // namespace
 
 const Series* Measured::find(const std::string& name) const {
   const auto found = std::find_if(series.begin(), series.end(),
@@ -66,6 +66,11 @@ void Contest::add(const std::string& name, std::int64_t operations, std::functio
 
 void Contest::addBytes(const std::string& name, std::function<double()> measure) {
   measured_.unit = Unit::Bytes;
+  measured_.series.push_back({name, {}});
+  contenders_.push_back({1, {}, {}, std::move(measure)});
+}
+
+void Contest::addTimed(const std::string& name, std::function<double()> measure) {
   measured_.series.push_back({name, {}});
   contenders_.push_back({1, {}, {}, std::move(measure)});
 }

@@ -16,6 +16,8 @@ struct Series {
 
 /// Which time counts: that of the processor, or that of the wall where waiting is part of the work.
 enum class Clock { Thread, Wall };
+/// Seconds on that clock, from some time on.
+double now(Clock clock);
 /// What is measured.
 enum class Unit { Seconds, Bytes };
 
@@ -63,6 +65,8 @@ class Contest {
            std::function<void(int pass)> prepare = {});
   /// A contender whose figure is not a time: `measure` tells it, in bytes.
   void addBytes(const std::string& name, std::function<double()> measure);
+  /// A contender that times itself: `measure` tells the seconds of one operation, by now().
+  void addTimed(const std::string& name, std::function<double()> measure);
   void expect(Target target) { measured_.targets.push_back(std::move(target)); }
 
   /// One turn of everybody; the seconds that the first one needed.

@@ -6,8 +6,14 @@
 #include <kobtraductionqt/KOBTraductionQt.h>
 #include <kobtraductionqt/QtWidgetSet.h>
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -17,7 +23,10 @@
 #include <QVBoxLayout>
 
 #include <array>
-#include <stdexcept>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
 
 namespace bench {
 
@@ -26,6 +35,8 @@ namespace {
 constexpr int perForm = 100;
 constexpr int languages = 6;
 constexpr int passes = 10;
+/// What a person does not notice, in seconds: one picture of sixty in a second.
+constexpr double frame = 0.016;
 
 QString nameOf(int cell) {
   return QStringLiteral("Controle%1").arg(cell);
@@ -86,7 +97,7 @@ void click(QAbstractItemView& view, const QModelIndex& index) {
 /// What one would make of the toolkit's own items: a tree beside six boxes.
 class BareWindow {
  public:
-  explicit BareWindow(int count) {
+  explicit BareWindow(int count) : hits_(&window_) {
     auto* const row = new QHBoxLayout(&window_);
     tree_ = new QTreeWidget(&window_);
     tree_->setHeaderHidden(true);
@@ -100,11 +111,7 @@ class BareWindow {
     }
     window_.resize(1000, 720);
     addItems(*tree_, count);
-    QObject::connect(tree_, &QTreeWidget::itemClicked, &window_, [this](const QTreeWidgetItem* item) {
-      for (QPlainTextEdit* const box : boxes_) {
-        box->setPlainText(item->text(0));
-      }
-    });
+    QObject::connect(tree_, &QTreeWidget::itemClicked, &window_, [this](auto* item) { show(*item); });
     tree_->topLevelItem(0)->setExpanded(true);
     window_.show();
     QApplication::processEvents();
@@ -124,6 +131,25 @@ class BareWindow {
     tree.addTopLevelItems(forms);
   }
 
+  /// A list in a window over this one; a click on one of its lines selects and shows an item, and hides it.
+  QListWidget& hits(const std::vector<int>& cells) {
+    auto* const column = new QVBoxLayout(&hits_);
+    auto* const list = new QListWidget(&hits_);
+    column->addWidget(list);
+    for (const int cell : cells) {
+      list->addItem(nameOf(cell));
+    }
+    QObject::connect(list, &QListWidget::itemClicked, &window_, [this, list, cells] {
+      const int cell = cells[static_cast<std::size_t>(list->currentRow())];
+      QTreeWidgetItem* const item = tree_->topLevelItem(cell / perForm)->child(cell % perForm);
+      tree_->setCurrentItem(item);
+      show(*item);
+      hits_.hide();
+    });
+    return *list;
+  }
+  QDialog& hitsWindow() { return hits_; }
+
   QTreeWidget& tree() const { return *tree_; }
   QPlainTextEdit& box() const { return *boxes_.front(); }
   QModelIndex child(int row) const { return tree_->model()->index(row, 0, tree_->model()->index(0, 0)); }
@@ -137,7 +163,14 @@ class BareWindow {
     return made;
   }
 
+  void show(const QTreeWidgetItem& item) const {
+    for (QPlainTextEdit* const box : boxes_) {
+      box->setPlainText(item.text(0));
+    }
+  }
+
   QWidget window_;
+  QDialog hits_;
   QTreeWidget* tree_ = nullptr;
   std::array<QPlainTextEdit*, languages> boxes_{};
 };
@@ -158,35 +191,108 @@ void contestOfOpening(int count, const std::function<void(Contest&)>& run) {
 }
 
 /// The editor on its first cell, beside the bare window.
-void besideTheBareWindow(int count, const std::function<void(QWidget& editor, const BareWindow& bare)>& act) {
+void besideTheBareWindow(
+    int count, const std::function<void(QWidget& editor, BareWindow& bare, kob::KOBModeleTraduction&)>& act) {
   kob::qt::QtWidgetSet widgets;
   kob::KOBModeleTraduction model;
   fill(model, count);
-  const BareWindow bare(count);
-  inEditor(model, formOf(0) + QLatin1Char('\\') + nameOf(0), [&](QWidget& editor) { act(editor, bare); });
+  BareWindow bare(count);
+  inEditor(model, formOf(0) + QLatin1Char('\\') + nameOf(0),
+           [&](QWidget& editor) { act(editor, bare, model); });
 }
 
 void contestOfTyping(int count, const std::function<void(Contest&)>& run) {
-  besideTheBareWindow(count, [&](const QWidget& editor, const BareWindow& bare) {
+  besideTheBareWindow(count, [&](const QWidget& editor, const BareWindow& bare, auto& /*model*/) {
     auto& box = *editor.findChild<QPlainTextEdit*>(QStringLiteral("tbTradMessage(1)"));
     Contest contest("Editor, keystroke", std::to_string(count));
     contest.setPasses(passes);
     contest.add("in the editor", 1, [&](int pass) { typeIn(box, pass); });
     contest.add("in a bare box", 1, [&](int pass) { typeIn(bare.box(), pass); });
     contest.expect({"in the editor", "in a bare box", 2});
+    contest.expect({"in the editor", {}, frame});
     run(contest);
   });
 }
 
 void contestOfClicks(int count, const std::function<void(Contest&)>& run) {
-  besideTheBareWindow(count, [&](const QWidget& editor, const BareWindow& bare) {
+  besideTheBareWindow(count, [&](const QWidget& editor, const BareWindow& bare, auto& /*model*/) {
     auto& tree = *editor.findChild<QTreeView*>(QStringLiteral("TV"));
     const auto child = [&tree](int row) { return tree.model()->index(row, 0, tree.model()->index(0, 0)); };
     Contest contest("Editor, click on a node", std::to_string(count));
     contest.setPasses(passes);
-    contest.add("in the editor", 1, [&](int pass) { click(tree, child(pass)); });
+    // A click after typing: what the editor knows of reference texts must not be gathered anew for it.
+    auto& reference = *editor.findChild<QPlainTextEdit*>(QStringLiteral("tbTradMessage(0)"));
+    contest.add(
+        "in the editor", 1, [&](int pass) { click(tree, child(pass)); },
+        [&](int pass) { typeIn(reference, pass); });
     contest.add("bare tree and boxes", 1, [&](int pass) { click(bare.tree(), bare.child(pass)); });
     contest.expect({"in the editor", "bare tree and boxes", 2});
+    contest.expect({"in the editor", {}, frame});
+    run(contest);
+  });
+}
+
+/// A click on a line that is in view, until the screen has followed; the seconds.
+double secondsOfClick(QListView& list, int row) {
+  const QModelIndex line = list.model()->index(row, 0);
+  list.scrollTo(line);
+  QApplication::processEvents();
+  const double start = now(Clock::Thread);
+  click(list, line);
+  return now(Clock::Thread) - start;
+}
+
+/// Opens the editor's search, lets something happen in it, and returns when it is closed.
+void inSearch(const QWidget& editor, const std::function<void(QWidget&)>& act) {
+  QTimer::singleShot(0, [&act] {
+    QApplication::processEvents();
+    act(*QApplication::activeModalWidget());
+  });
+  editor.findChild<QAction*>(QStringLiteral("m_Search"))->trigger();
+}
+
+/// The cells that hold this in their reference text, by their numbers.
+std::vector<int> cellsWith(kob::KOBModeleTraduction& model, kob::TextView text) {
+  kob::CellResults results;
+  model.SearchString(text, &results);
+  std::vector<int> cells;
+  for (const auto& cell : results) {
+    cells.push_back(kob::qt::toQString(cell->nom()).mid(nameOf(0).size() - 1).toInt());
+  }
+  return cells;
+}
+
+void contestOfHits(int count, const std::function<void(Contest&)>& run) {
+  besideTheBareWindow(count, [&](const QWidget& editor, BareWindow& bare, kob::KOBModeleTraduction& model) {
+    const QString sought = QStringLiteral("e");
+    const std::vector<int> cells = cellsWith(model, kob::qt::toText(sought));
+    QListWidget& bareList = bare.hits(cells);
+    inSearch(editor, [&](QWidget& search) {
+      key(*search.findChild<QLineEdit*>(QStringLiteral("tbSearchString")), Qt::Key_E, sought);
+      search.findChild<QAbstractButton*>(QStringLiteral("bNewSearch"))->click();
+      search.close();
+    });
+    // All over the model.
+    int turn = 0;
+    const auto row = [&] { return static_cast<int>(++turn * std::size_t{9973} % cells.size()); };
+    Contest contest("Editor, click on a hit", std::to_string(count));
+    contest.addTimed("in the editor", [&] {
+      double seconds = 0;
+      inSearch(editor, [&](QWidget& search) {
+        seconds = secondsOfClick(*search.findChild<QListView*>(QStringLiteral("List1")), row());
+        if (search.isVisible()) {
+          qFatal("no hit was clicked");
+        }
+      });
+      return seconds;
+    });
+    contest.addTimed("bare list, tree and boxes", [&] {
+      bare.hitsWindow().open();
+      QApplication::processEvents();
+      return secondsOfClick(bareList, row());
+    });
+    contest.expect({"in the editor", "bare list, tree and boxes", 2});
+    contest.expect({"in the editor", {}, frame});
     run(contest);
   });
 }
@@ -201,6 +307,7 @@ void addEditing(Suite& suite) {
             [count](const auto& run) { contestOfTyping(count, run); });
   suite.add("Editor/clicking/" + std::to_string(count),
             [count](const auto& run) { contestOfClicks(count, run); });
+  suite.add("Editor/hits/" + std::to_string(count), [count](const auto& run) { contestOfHits(count, run); });
 }
 
 }  // namespace bench
