@@ -15,9 +15,11 @@ class EditorDialog final : public QDialog {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void leaveParent();
+  void fadeDisabledLess();
 
   bool staysOnEscape_;
 };

@@ -1,105 +1,22 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "Desk.h"
+#include "PictureChecks.h"
 #include "SampleModel.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QImage>
+#include <QPalette>
 #include <QPixmap>
-#include <QPlainTextEdit>
-#include <QSplitter>
 #include <QStyleFactory>
 
-#include <cstdio>
-
-/// Writes a picture of every window of the editor in each of its states into a folder:
-/// qt_editor_pictures FOLDER [dark]. Take QT_SCALE_FACTOR=2 for sharp screens.
+/// A picture of every window of the editor in each of its states, looked at for what a person would find
+/// wrong. KOB_PICTURES names a folder that keeps the pictures, KOB_THEME=dark a dark theme; QT_SCALE_FACTOR=2
+/// is for sharp screens.
 namespace kob::qt::testing {
 namespace {
 
-class PictureRun {
- public:
-  explicit PictureRun(const QDir& folder) : folder_(folder) { fillSample(model_); }
-
-  int run() {
-    editor("empty", 0, u"");
-    editor("node", 0, u"App\\FrmClient");
-    editor("control", 0, u"App\\FrmClient\\btnEnregistrer");
-    editor("control-without-position", 0, u"App\\FrmClient\\btnAnnuler");
-    editor("context", 0, u"App\\FrmClient\\lblVille");
-    editor("scripts", 0, u"App\\FrmClient\\lblArabe");
-    editor("message", 0, u"App\\Messages\\Confirmation");
-    editor("restricted-control", 1, u"App\\FrmClient\\btnEnregistrer");
-    editor("restricted-message", 1, u"App\\Messages\\Confirmation");
-    sized("small", {560, 420});
-    sized("large", {1600, 1000});
-    after("modified", [](const Window& window) { window.type("tbTradCtrl(1)", QStringLiteral("Save!")); });
-    after("node-kinds", [](const Window& window) { window.tree().expandAll(); });
-    over("add-node-empty", "bAdd", [](const Window&) {});
-    over("add-node-message", "bAdd", [](const Window& window) { window.press("OptTypFeuille(1)"); });
-    over("add-node-control", "bAdd", [](const Window& window) { window.press("OptTypFeuille(2)"); });
-    over("add-translation", "bAddTrad", [](const Window&) {});
-    search();
-    return failures_;
-  }
-
- private:
-  void grab(const Window& window, const char* name) {
-    QTest::qWait(30);
-    if (!window.widget().grab().save(folder_.filePath(QLatin1String(name) + QStringLiteral(".png")))) {
-      std::fprintf(stderr, "the picture %s cannot be written\n", name);
-      ++failures_;
-    }
-  }
-  void editor(const char* name, std::int32_t mode, TextView path) {
-    desk_.whenOpen([this, name](const Window& window) { grab(window, name); });
-    model_.Show(mode, path);
-  }
-  void sized(const char* name, QSize size) {
-    desk_.whenOpen([this, name, size](const Window& window) {
-      window.widget().resize(size);
-      grab(window, name);
-    });
-    model_.Show(0, u"App\\FrmClient\\btnEnregistrer");
-  }
-  void after(const char* name, const Script& act) {
-    desk_.whenOpen([this, name, act](const Window& window) {
-      act(window);
-      grab(window, name);
-    });
-    model_.Show(0, u"App\\FrmClient\\btnEnregistrer");
-  }
-  void over(const char* name, const char* button, const Script& act) {
-    desk_.whenOpen([this, name, button, act](const Window& window) {
-      desk_.whenOpen([this, name, act](const Window& small) {
-        act(small);
-        grab(small, name);
-      });
-      window.press(button);
-    });
-    model_.Show(0, u"App\\FrmClient\\btnEnregistrer");
-  }
-  void search() {
-    desk_.whenOpen([this](const Window& window) {
-      desk_.whenOpen([this](const Window& small) {
-        small.type("tbSearchString", QStringLiteral("r"));
-        small.press("bNewSearch");
-        grab(small, "search");
-        small.clickLine("List1", 0);
-      });
-      window.key(Qt::Key_F, Qt::ControlModifier);
-      grab(window, "after-search");
-    });
-    model_.Show(0, u"");
-  }
-
-  QDir folder_;
-  QtWidgetSet widgets_;
-  KOBModeleTraduction model_;
-  Desk desk_;
-  int failures_ = 0;
-};
-
-void setDark() {
+QPalette darkPalette() {
   const QColor window(45, 45, 48);
   const QColor base(30, 30, 32);
   const QColor text(225, 225, 225);
@@ -116,25 +33,161 @@ void setDark() {
   for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     dark.setColor(QPalette::Disabled, role, QColor(130, 130, 130));
   }
-  QApplication::setPalette(dark);
+  return dark;
+}
+
+class EditorPictures : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    if (qEnvironmentVariable("KOB_THEME") == QLatin1String("dark")) {
+      QApplication::setPalette(darkPalette());
+    }
+  }
+
+  EditorPictures() { fillSample(model_); }
+
+  static void look(const Window& window, const char* name) {
+    QTest::qWait(30);
+    const QImage picture = window.widget().grab().toImage();
+    const QString folder = qEnvironmentVariable("KOB_PICTURES");
+    if (!folder.isEmpty()) {
+      EXPECT_TRUE(QDir().mkpath(folder));
+      EXPECT_TRUE(picture.save(QDir(folder).filePath(QLatin1String(name) + QStringLiteral(".png"))));
+    }
+    for (const QString& fault : faultsOf(window.widget(), picture)) {
+      ADD_FAILURE() << name << ": " << qPrintable(fault);
+    }
+  }
+  /// The editor on a cell, after something was done in it.
+  void editor(
+      const char* name, std::int32_t mode, TextView path, const Script& act = [](const Window&) {}) {
+    desk_.whenOpen([name, act](const Window& window) {
+      act(window);
+      look(window, name);
+    });
+    model_.Show(mode, path);
+  }
+  void onButton(const char* name, const Script& act) {
+    editor(name, 0, u"App\\FrmClient\\btnEnregistrer", act);
+  }
+  /// A window that a button of the editor opens.
+  void over(
+      const char* name, const char* button, const Script& act = [](const Window&) {}) {
+    desk_.whenOpen([this, name, button, act](const Window& window) {
+      desk_.whenOpen([name, act](const Window& small) {
+        act(small);
+        look(small, name);
+      });
+      window.press(button);
+    });
+    model_.Show(0, u"App\\FrmClient\\btnEnregistrer");
+  }
+
+  QtWidgetSet widgets_;
+  KOBModeleTraduction model_;
+  Desk desk_;
+};
+
+TEST_F(EditorPictures, OfTheEditorOnEveryKindOfCell) {
+  editor("empty", 0, u"");
+  editor("node", 0, u"App\\FrmClient");
+  editor("control", 0, u"App\\FrmClient\\btnEnregistrer");
+  editor("control-without-position", 0, u"App\\FrmClient\\btnAnnuler");
+  editor("context", 0, u"App\\FrmClient\\lblVille");
+  editor("scripts", 0, u"App\\FrmClient\\lblArabe");
+  editor("message", 0, u"App\\Messages\\Confirmation");
+}
+
+TEST_F(EditorPictures, OfTheEditorForTranslators) {
+  editor("restricted-empty", 1, u"");
+  editor("restricted-node", 1, u"App\\FrmClient");
+  editor("restricted-control", 1, u"App\\FrmClient\\btnEnregistrer");
+  editor("restricted-context", 1, u"App\\FrmClient\\lblVille");
+  editor("restricted-message", 1, u"App\\Messages\\Confirmation");
+}
+
+TEST_F(EditorPictures, OfASmallAndALargeWindow) {
+  onButton("small", [](const Window& window) { window.widget().resize(560, 420); });
+  onButton("large", [](const Window& window) { window.widget().resize(1600, 1000); });
+}
+
+TEST_F(EditorPictures, OfTheEditorWithChangesAndWithEveryNodeUnfolded) {
+  onButton("modified", [](const Window& window) { window.type("tbTradCtrl(1)", QStringLiteral("Save!")); });
+  onButton("node-kinds", [](const Window& window) { window.tree().expandAll(); });
+}
+
+TEST_F(EditorPictures, OfAddingACell) {
+  over("add-node-empty", "bAdd");
+  over("add-node-message", "bAdd", [](const Window& window) { window.press("OptTypFeuille(1)"); });
+  over("add-node-control", "bAdd", [](const Window& window) { window.press("OptTypFeuille(2)"); });
+}
+
+TEST_F(EditorPictures, OfAddingATranslationName) {
+  over("add-translation", "bAddTrad");
+}
+
+TEST_F(EditorPictures, OfTheSearchAndOfTheEditorAfterAHit) {
+  desk_.whenOpen([this](const Window& window) {
+    desk_.whenOpen([](const Window& search) {
+      look(search, "search-empty");
+      search.type("tbSearchString", QStringLiteral("r"));
+      search.press("bNewSearch");
+      look(search, "search");
+      search.clickLine("List1", 0);
+    });
+    window.key(Qt::Key_F, Qt::ControlModifier);
+    look(window, "after-search");
+  });
+  model_.Show(0, u"");
+}
+
+/// What is looked for is found: otherwise a picture without faults would mean nothing.
+class PictureFaults : public EditorPictures {
+ protected:
+  void spoil(const char* fault, const Script& how) {
+    desk_.whenOpen([=](const Window& window) {
+      how(window);
+      QTest::qWait(30);
+      const QString found =
+          faultsOf(window.widget(), window.widget().grab().toImage()).join(QLatin1Char('\n'));
+      EXPECT_TRUE(found.contains(QLatin1String(fault))) << qPrintable(found);
+    });
+    model_.Show(0, u"App\\FrmClient\\btnEnregistrer");
+  }
+};
+
+TEST_F(PictureFaults, ACutButtonIsFound) {
+  spoil("bAdd (QPushButton) needs", [](const Window& window) { window.the("bAdd").setFixedWidth(40); });
+}
+
+TEST_F(PictureFaults, AWidgetBeyondItsParentIsFound) {
+  spoil("chkContexte (QCheckBox) sticks out", [](const Window& window) {
+    QTest::qWait(30);
+    window.the("chkContexte").move(-20, 0);
+  });
+}
+
+TEST_F(PictureFaults, OverlappingWidgetsAreFound) {
+  spoil("overlaps", [](const Window& window) {
+    QTest::qWait(30);
+    window.the("bSupp").move(window.the("bAdd").pos() + QPoint(5, 0));
+  });
+}
+
+TEST_F(PictureFaults, ATextLikeItsGroundIsFound) {
+  spoil("tbNom (QLineEdit): a text with a contrast of", [](const Window& window) {
+    QPalette palette = window.the("tbNom").palette();
+    palette.setColor(QPalette::Text, palette.color(QPalette::Base));
+    window.the("tbNom").setPalette(palette);
+  });
+}
+
+TEST_F(PictureFaults, ABlankPictureIsFound) {
+  QWidget window;
+  window.resize(200, 200);
+  EXPECT_EQ(faultsOf(window, window.grab().toImage()), QStringList{QStringLiteral("the picture is blank")});
 }
 
 }  // namespace
 }  // namespace kob::qt::testing
-
-int main(int argc, char** argv) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-  }
-  QApplication application(argc, argv);
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-  const QStringList arguments = QApplication::arguments();
-  if (arguments.size() < 2 || !QDir().mkpath(arguments[1])) {
-    std::fprintf(stderr, "usage: qt_editor_pictures FOLDER [dark]\n");
-    return 2;
-  }
-  if (arguments.contains(QStringLiteral("dark"))) {
-    kob::qt::testing::setDark();
-  }
-  return kob::qt::testing::PictureRun(QDir(arguments[1])).run();
-}
