@@ -9,6 +9,25 @@ namespace kob::automation {
 
 namespace {
 
+/// The names of all properties, made once: look-ups are most of what is asked of a host.
+class PropertyNames {
+ public:
+  PropertyNames() {
+    for (int i = 0; i < propertyCount; ++i) {
+      *names_[i].put() = newBstr(propertyName(static_cast<Property>(i)));
+    }
+  }
+  const Bstr& of(Property property) const noexcept { return names_[static_cast<int>(property)]; }
+
+ private:
+  Bstr names_[propertyCount];
+};
+
+const Bstr& nameOf(Property property) {
+  static const PropertyNames names;
+  return names.of(property);
+}
+
 /// The object of a value that a host gave, or none.
 IUnknown* objectIn(const VARIANT& value) noexcept {
   const VARIANT& found = resolved(value);
@@ -33,7 +52,7 @@ std::optional<DISPID> DispatchObject::memberOf(Property property) {
   const auto at = static_cast<std::size_t>(property);
   const std::uint32_t bit = 1U << at;
   if ((known_ & bit) == 0) {
-    const std::optional<DISPID> found = object_.find(wide(propertyName(property).data()));
+    const std::optional<DISPID> found = object_.find(nameOf(property));
     if (!found) {
       return std::nullopt;
     }
@@ -129,7 +148,7 @@ bool DispatchObject::setIndexed(Property property, std::int32_t index, const Val
   if (SUCCEEDED(members.assignAt(DISPID_VALUE, index, *given))) {
     return true;
   }
-  const std::optional<DISPID> element = members.find(wide(decimal(index).c_str()));
+  const std::optional<DISPID> element = members.find(Bstr(decimal(index)));
   return element && SUCCEEDED(members.assign(*element, *given));
 }
 
@@ -200,7 +219,7 @@ std::optional<std::vector<HostRef>> DispatchObject::byCount() {
 }
 
 std::optional<std::int32_t> DispatchObject::length() const {
-  const std::optional<DISPID> member = object_.find(L"length");
+  const std::optional<DISPID> member = object_.find(Bstr(u"length"));
   Variant value;
   if (!member || FAILED(object_.read(*member, *value))) {
     return std::nullopt;
@@ -210,7 +229,7 @@ std::optional<std::int32_t> DispatchObject::length() const {
 }
 
 std::optional<Value> DispatchObject::element(std::int32_t number) const {
-  const std::optional<DISPID> member = object_.find(wide(decimal(number).c_str()));
+  const std::optional<DISPID> member = object_.find(Bstr(decimal(number)));
   Variant value;
   const bool isRead = member && SUCCEEDED(object_.read(*member, *value));
   return isRead ? fromVariant(*value, ValueKind::Object) : std::nullopt;

@@ -77,8 +77,8 @@ HostStream::HostStream(IDispatch* stream) : stream_(stream), typed_(query<IKOBVB
   }
 }
 
-DISPID HostStream::memberOf(const wchar_t* name) const {
-  const std::optional<DISPID> member = stream_.find(name);
+DISPID HostStream::memberOf(TextView name) const {
+  const std::optional<DISPID> member = stream_.find(Bstr(name));
   if (!member) {
     throw Failure(FailureKind::PropertyMissing);
   }
@@ -92,7 +92,7 @@ std::int32_t HostStream::Version() {
     return version;
   }
   Variant version;
-  mustSucceed(stream_.read(memberOf(L"Version"), *version));
+  mustSucceed(stream_.read(memberOf(u"Version"), *version));
   return longOf(*version);
 }
 
@@ -103,7 +103,7 @@ void HostStream::setVersion(std::int32_t version) {
   }
   Variant value;
   putLong(*value, version);
-  mustSucceed(stream_.assign(memberOf(L"Version"), *value));
+  mustSucceed(stream_.assign(memberOf(u"Version"), *value));
 }
 
 void HostStream::WriteValue(const PersistValue& value) {
@@ -114,7 +114,7 @@ void HostStream::WriteValue(const PersistValue& value) {
     return;
   }
   DISPPARAMS parameters{given.get(), nullptr, 1, 0};
-  mustSucceed(stream_.call(memberOf(L"WriteValue"), DISPATCH_METHOD, parameters, nullptr));
+  mustSucceed(stream_.call(memberOf(u"WriteValue"), DISPATCH_METHOD, parameters, nullptr));
 }
 
 const PersistValue& HostStream::ReadValue() {
@@ -124,7 +124,7 @@ const PersistValue& HostStream::ReadValue() {
   } else {
     DISPPARAMS none{};
     mustSucceed(
-        stream_.call(memberOf(L"ReadValue"), DISPATCH_METHOD | DISPATCH_PROPERTYGET, none, read.get()));
+        stream_.call(memberOf(u"ReadValue"), DISPATCH_METHOD | DISPATCH_PROPERTYGET, none, read.get()));
   }
   const VARIANT& found = resolved(*read);
   switch (V_VT(&found)) {

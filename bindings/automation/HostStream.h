@@ -22,7 +22,7 @@ class HostStream final : public PersistStream {
   const PersistValue& ReadValue() override;
 
  private:
-  DISPID memberOf(const wchar_t* name) const;
+  DISPID memberOf(TextView name) const;
 
   LateBound stream_;
   /// None for a stream that is known by name only.

@@ -26,16 +26,19 @@ std::optional<Value> emptyValue(ValueKind kind) {
   return Value();
 }
 
-std::optional<Value> fromObject(IUnknown* object, ValueKind kind) {
+std::optional<Value> fromObject(IDispatch* object, ValueKind kind) {
   if (object == nullptr) {
     return Value();
   }
   if (kind == ValueKind::Object) {
-    HostRef host = hostOf(object);
-    return host != nullptr ? std::optional(Value(std::move(host))) : std::nullopt;
+    return Value(HostRef(std::make_shared<DispatchObject>(object)));
   }
+  return DispatchObject(object).defaultValue(kind);
+}
+
+std::optional<Value> fromUnknown(IUnknown* object, ValueKind kind) {
   const ComRef<IDispatch> dispatch = query<IDispatch>(object);
-  return dispatch ? DispatchObject(dispatch.get()).defaultValue(kind) : std::nullopt;
+  return object == nullptr || dispatch ? fromObject(dispatch.get(), kind) : std::nullopt;
 }
 
 /// Numbers of the types that are neither a 32-bit integer nor a double. As a text they read as the host's
@@ -72,7 +75,7 @@ std::optional<Value> fromPlain(const VARIANT& value, ValueKind kind) {
     case VT_DISPATCH:
       return fromObject(V_DISPATCH(&value), kind);
     case VT_UNKNOWN:
-      return fromObject(V_UNKNOWN(&value), kind);
+      return fromUnknown(V_UNKNOWN(&value), kind);
     case VT_I1:
     case VT_UI1:
     case VT_UI2:

@@ -28,14 +28,20 @@ class Exception {
 
 }  // namespace
 
-LateBound::LateBound(IDispatch* object) : object_(object), extended_(query<IDispatchEx>(object)) {}
+IDispatchEx* LateBound::extended() const noexcept {
+  // Many objects are only passed around, and never asked for a name.
+  if (!isExtendedAsked_) {
+    extended_ = query<IDispatchEx>(object_.get());
+    isExtendedAsked_ = true;
+  }
+  return extended_.get();
+}
 
-std::optional<DISPID> LateBound::find(const wchar_t* name) const {
+std::optional<DISPID> LateBound::find(const Bstr& name) const {
   DISPID member = DISPID_UNKNOWN;
-  if (extended_) {
+  if (IDispatchEx* const byCase = extended()) {
     // Script objects answer this one only, and are asked in it to ignore the case.
-    const Bstr asked(reinterpret_cast<const char16_t*>(name));
-    const HRESULT found = extended_->GetDispID(asked.get(), fdexNameCaseInsensitive, &member);
+    const HRESULT found = byCase->GetDispID(name.get(), fdexNameCaseInsensitive, &member);
     if (SUCCEEDED(found)) {
       return member != DISPID_UNKNOWN ? std::optional(member) : std::nullopt;
     }
@@ -43,7 +49,7 @@ std::optional<DISPID> LateBound::find(const wchar_t* name) const {
       return std::nullopt;
     }
   }
-  auto* names = const_cast<LPOLESTR>(name);
+  LPOLESTR names = name.get();
   const HRESULT found = object_->GetIDsOfNames(IID_NULL, &names, 1, locale, &member);
   return SUCCEEDED(found) && member != DISPID_UNKNOWN ? std::optional(member) : std::nullopt;
 }

@@ -12,12 +12,12 @@ namespace kob::automation {
 /// is dropped: it must not be taken for an error of the call that the host itself made.
 class LateBound {
  public:
-  explicit LateBound(IDispatch* object);
+  explicit LateBound(IDispatch* object) noexcept : object_(object) {}
 
   IDispatch* object() const noexcept { return object_.get(); }
 
   /// The number of a member, letter case ignored where the object can do that.
-  std::optional<DISPID> find(const wchar_t* name) const;
+  std::optional<DISPID> find(const Bstr& name) const;
 
   HRESULT read(DISPID member, VARIANT& value) const;
   HRESULT readAt(DISPID member, std::int32_t index, VARIANT& value) const;
@@ -30,8 +30,12 @@ class LateBound {
   static bool isRaised(HRESULT result) noexcept;
 
  private:
+  /// None for an object that has names of one kind only.
+  IDispatchEx* extended() const noexcept;
+
   ComRef<IDispatch> object_;
-  ComRef<IDispatchEx> extended_;
+  mutable ComRef<IDispatchEx> extended_;
+  mutable bool isExtendedAsked_ = false;
 };
 
 }  // namespace kob::automation
