@@ -17,6 +17,7 @@
 #include <kobtraduction/editor/TreeView.h>
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -78,10 +79,17 @@ class ScriptedSlider final : public Scripted<Slider> {
   using Scripted::Scripted;
   std::int32_t shownValue = 0;
   std::pair<std::int32_t, std::int32_t> shownRange;
+  /// Called when the slider is given another value, before the editor is told of it.
+  std::function<void()> whenShown;
 
  private:
   void showRange(std::int32_t minimum, std::int32_t maximum) override { shownRange = {minimum, maximum}; }
-  void showValue(std::int32_t value) override { shownValue = value; }
+  void showValue(std::int32_t value) override {
+    shownValue = value;
+    if (whenShown) {
+      whenShown();
+    }
+  }
 };
 
 class ScriptedListBox final : public Scripted<ListBox> {

@@ -104,6 +104,35 @@ TEST_F(EditorPosition, ResettingTheWidthLeavesTheLeft) {
   EXPECT_THAT(lefts(), ElementsAre(1, 1, 1.5, 1, 1, 1));
 }
 
+// Between the first writing of the factor and the change of the slider, which could write it again, the model
+// gets another factor: it stays.
+
+TEST_F(EditorPosition, ResettingTheLeftWritesItOnce) {
+  cell->ChangeLeft(1.5, 3);
+  edit(u"App\\c", [this](Person& person) {
+    person.the<ScriptedSlider>(u"sldLeft", 2).whenShown = [this] {
+      EXPECT_EQ(lefts()[2], 1);
+      cell->ChangeLeft(3, 3);
+    };
+    person.press(u"bl1", 2);
+    EXPECT_EQ(person.value(u"sldLeft", 2), 100);
+  });
+  EXPECT_EQ(lefts()[2], 3);
+}
+
+TEST_F(EditorPosition, ResettingTheWidthWritesItOnce) {
+  cell->ChangeWidth(1.5, 3);
+  edit(u"App\\c", [this](Person& person) {
+    person.the<ScriptedSlider>(u"sldwidth", 2).whenShown = [this] {
+      EXPECT_EQ(widths()[2], 1);
+      cell->ChangeWidth(3, 3);
+    };
+    person.press(u"bw1", 2);
+    EXPECT_EQ(person.value(u"sldwidth", 2), 100);
+  });
+  EXPECT_EQ(widths()[2], 3);
+}
+
 TEST_F(EditorPosition, AfterAResetTheSliderWritesAgain) {
   edit(u"App\\c", [](Person& person) {
     person.press(u"bl1", 0);
