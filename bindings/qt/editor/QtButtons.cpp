@@ -22,6 +22,7 @@ void QtOptionButton::listen(QObject& reports) {
   // The arrow keys choose without a click.
   QObject::connect(&control(), &QRadioButton::toggled, &reports, [this](bool on) {
     if (on && !isQuiet_) {
+      letTabReach();
       personChose();
     }
   });
@@ -38,8 +39,14 @@ void QtOptionButton::showOn(bool on) {
   } else {
     control().setChecked(on);
   }
-  if (on && group != nullptr) {
-    // Tab goes to the button that is on, as it does once one of them has had the focus.
+  if (on) {
+    letTabReach();
+  }
+}
+
+void QtOptionButton::letTabReach() {
+  // Of its group Tab goes to the button that is on; the toolkit sees to it only once one has had the focus.
+  if (const QButtonGroup* const group = control().group()) {
     for (QAbstractButton* const button : group->buttons()) {
       button->setFocusPolicy(button == &control() ? Qt::StrongFocus : Qt::ClickFocus);
     }

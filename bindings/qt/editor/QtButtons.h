@@ -47,6 +47,8 @@ class QtOptionButton final : public OnScreen<OptionButton, QRadioButton> {
   void showOn(bool on) override;
 
  private:
+  void letTabReach();
+
   bool isQuiet_ = false;
 };
 

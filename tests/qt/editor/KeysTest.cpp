@@ -1,26 +1,79 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "Desk.h"
 
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAccessible>
 #include <QAction>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QSlider>
 
 namespace kob::qt::testing {
 namespace {
 
 struct EditorKeys : EditorOnScreen {
-  /// The names of what Tab reaches from the tree on, once around. A part of a widget counts as the widget.
-  static QStringList tabbed(const Window& window) {
-    QStringList names;
-    window.tree().setFocus();
+  /// A part of a widget counts as the widget.
+  static QString nameOf(const QWidget& widget) {
+    const QWidget* named = &widget;
+    while (named->objectName().isEmpty() || named->objectName().startsWith(QLatin1String("qt_"))) {
+      named = named->parentWidget();
+    }
+    return named->objectName();
+  }
+  /// What Tab reaches from a widget on, once around.
+  static QList<QWidget*> walked(const Window& window, QWidget& first) {
+    QList<QWidget*> reached;
+    first.setFocus();
     do {
-      const QWidget* named = window.widget().focusWidget();
-      while (named->objectName().isEmpty() || named->objectName().startsWith(QLatin1String("qt_"))) {
-        named = named->parentWidget();
-      }
-      names += named->objectName();
+      reached += window.widget().focusWidget();
       window.key(Qt::Key_Tab);
-    } while (!window.tree().hasFocus() && names.size() < 100);
+    } while (window.widget().focusWidget() != reached.front() && reached.size() < 100);
+    return reached;
+  }
+  /// The names of what Tab reaches.
+  static QStringList tabbed(const Window& window, QWidget& first) {
+    QStringList names;
+    for (const QWidget* const widget : walked(window, first)) {
+      names += nameOf(*widget);
+    }
     return names;
+  }
+  static QStringList tabbed(const Window& window) { return tabbed(window, window.tree()); }
+
+  /// Whatever can be clicked or typed into is reached by Tab, or by the arrow keys from a button of its
+  /// group, and has a name for assistive tools.
+  static void reachesEverything(const Window& window, QWidget& first) {
+    const QList<QWidget*> reached = walked(window, first);
+    for (QWidget* const widget : window.widget().findChildren<QWidget*>()) {
+      const bool acts =
+          qobject_cast<QAbstractButton*>(widget) != nullptr || qobject_cast<QLineEdit*>(widget) != nullptr ||
+          qobject_cast<QPlainTextEdit*>(widget) != nullptr || qobject_cast<QSlider*>(widget) != nullptr ||
+          qobject_cast<QComboBox*>(widget) != nullptr || qobject_cast<QAbstractItemView*>(widget) != nullptr;
+      // What the toolkit makes a widget of has a parent that acts.
+      if (!acts || !widget->isVisible() || !widget->isEnabled() || widget->focusPolicy() == Qt::NoFocus) {
+        EXPECT_TRUE(!acts || !widget->isVisible() || !widget->isEnabled() || isPart(*widget))
+            << qPrintable(nameOf(*widget)) << " takes no keys";
+        continue;
+      }
+      const auto* const radio = qobject_cast<QRadioButton*>(widget);
+      EXPECT_TRUE(reached.contains(widget) ||
+                  (radio != nullptr && reached.contains(radio->group()->checkedButton())))
+          << qPrintable(nameOf(*widget)) << " is not reached";
+      const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(widget);
+      ASSERT_NE(told, nullptr);
+      EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << qPrintable(nameOf(*widget)) << " has no name";
+    }
+  }
+  static bool isPart(const QWidget& widget) {
+    const QWidget* const above = widget.parentWidget();
+    return qobject_cast<const QComboBox*>(above) != nullptr ||
+           qobject_cast<const QLineEdit*>(above) != nullptr ||
+           widget.objectName().startsWith(QLatin1String("qt_"));
   }
 };
 
@@ -51,6 +104,53 @@ TEST_F(EditorKeys, InRestrictedModeTabGoesFromTextToText) {
     EXPECT_EQ(tabbed(window).join(QLatin1Char(' ')),
               QStringLiteral("TV pConteneur LstNomTrad tbTradCtrl(0) tbTradCtrl(1) tbTradCtrl(2) "
                              "tbTradCtrl(3) tbTradCtrl(4) tbTradCtrl(5)"));
+  });
+}
+
+TEST_F(EditorKeys, EverythingInTheEditorIsReachedAndNamed) {
+  message(app, u"M", {u"Oui", u"", u"", u"", u"", u""})->setContexte(true);
+  control(app, u"C", {entry(u"Caption", {u"Oui", u"", u"", u"", u"", u""})});
+  for (const std::int32_t mode : {full, restricted}) {
+    for (const TextView path : {u"", u"App\\M", u"App\\C"}) {
+      edit(mode, path, [](const Window& window) { reachesEverything(window, window.tree()); });
+    }
+  }
+}
+
+TEST_F(EditorKeys, EverythingInTheSmallDialogsIsReachedAndNamed) {
+  control(app, u"C", {entry(u"Caption", {u"Oui", u"", u"", u"", u"", u""})});
+  edit(u"App\\C", [this](const Window& window) {
+    for (const char* const kind : {"OptTypFeuille(0)", "OptTypFeuille(1)", "OptTypFeuille(2)"}) {
+      answer([kind](const Window& dialog) {
+        dialog.press(kind);
+        reachesEverything(dialog, dialog.the("tbNom"));
+      });
+      window.press("bAdd");
+    }
+    answer([](const Window& dialog) { reachesEverything(dialog, dialog.the("tbNomTrad")); });
+    window.press("bAddTrad");
+    answer([](const Window& dialog) { reachesEverything(dialog, dialog.the("tbSearchString")); });
+    window.key(Qt::Key_F, Qt::ControlModifier);
+  });
+}
+
+TEST_F(EditorKeys, TabWalksThroughTheSmallDialogsInReadingOrder) {
+  control(app, u"C", {entry(u"Caption", {u"Oui", u"", u"", u"", u"", u""})});
+  const auto walk = [](const char* first, const char* expected) {
+    return [first, expected](const Window& dialog) {
+      EXPECT_EQ(tabbed(dialog, dialog.the(first)).join(QLatin1Char(' ')), QLatin1String(expected));
+    };
+  };
+  edit(u"App\\C", [&](const Window& window) {
+    answer([&](const Window& dialog) {
+      dialog.press("OptTypFeuille(2)");
+      walk("tbNom", "tbNom tbAlias OptTypFeuille(2) chkContexte tb1 tb2 bOK bCancel")(dialog);
+    });
+    window.press("bAdd");
+    answer(walk("tbNomTrad", "tbNomTrad bOk bCancel"));
+    window.press("bAddTrad");
+    answer(walk("tbSearchString", "tbSearchString CkSearch(1) CbLangueSearch bNewSearch List1 CkSearch(0)"));
+    window.key(Qt::Key_F, Qt::ControlModifier);
   });
 }
 
