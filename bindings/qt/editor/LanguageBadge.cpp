@@ -1,38 +1,23 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "LanguageBadge.h"
 
+#include <kobtraduction/editor/ShownLanguages.h>
+#include <kobtraductionqt/KOBTraductionQt.h>
+
 #include <QFontMetrics>
 #include <QPainter>
-
-#include <array>
 
 namespace kob::qt {
 
 namespace {
 
-struct Shown {
-  const char16_t* name;
-  const char* code;
-  QRgb colour;
-};
-
-/// White is read on each of the colours.
-constexpr std::array<Shown, 6> languages{{
-    {u"Français", "FR", 0xff2f5fb3},
-    {u"English", "EN", 0xff9b2d3f},
-    {u"Nederlands", "NL", 0xffb0560f},
-    {u"Deutsch", "DE", 0xff5f6673},
-    {u"Italiano", "IT", 0xff2a7a4b},
-    {u"Español", "ES", 0xff7f6200},
-}};
-
 constexpr int horizontalMargin = 5;
 constexpr int verticalMargin = 2;
 constexpr double corner = 3;
 
-const Shown* shown(int language) {
+const ShownLanguage* shown(int language) {
   const auto index = static_cast<std::size_t>(language) - 1;
-  return index < languages.size() ? &languages[index] : nullptr;
+  return index < shownLanguageList.size() ? &shownLanguageList[index] : nullptr;
 }
 
 QFont codeFont(const QWidget& widget) {
@@ -44,8 +29,8 @@ QFont codeFont(const QWidget& widget) {
 }  // namespace
 
 QString languageName(int language) {
-  const Shown* const found = shown(language);
-  return found != nullptr ? QString::fromUtf16(found->name) : QString();
+  const ShownLanguage* const found = shown(language);
+  return found != nullptr ? toQString(found->name) : QString();
 }
 
 LanguageBadge::LanguageBadge(int language, QWidget* parent) : QWidget(parent), language_(language) {
@@ -62,19 +47,19 @@ QSize LanguageBadge::sizeHint() const {
 }
 
 void LanguageBadge::paintEvent(QPaintEvent* /*event*/) {
-  const Shown* const found = shown(language_);
+  const ShownLanguage* const found = shown(language_);
   if (found == nullptr) {
     return;
   }
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor::fromRgba(found->colour));
+  painter.setBrush(QColor::fromRgb(found->colour));
   painter.setOpacity(isEnabled() ? 1 : 0.5);
   painter.drawRoundedRect(rect(), corner, corner);
   painter.setFont(codeFont(*this));
   painter.setPen(Qt::white);
-  painter.drawText(rect(), Qt::AlignCenter, QLatin1String(found->code));
+  painter.drawText(rect(), Qt::AlignCenter, toQString(found->code));
 }
 
 }  // namespace kob::qt

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "QtTextBox.h"
 
-#include "LineEnds.h"
+#include <kobtraduction/editor/LineEnds.h>
 
 #include <limits>
 
@@ -25,7 +25,7 @@ void QtLineBox::showText(TextView text) {
 
 void QtTextBox::listen(QObject& reports) {
   QObject::connect(&control(), &QPlainTextEdit::textChanged, &reports,
-                   [this] { personTyped(editedInDocument(text(), toText(control().shown()))); });
+                   [this] { personTyped(editedInDocument(text(), toText(control().shown()), u"\n")); });
 }
 
 void QtTextBox::showText(TextView text) {

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
-#include "LineEnds.h"
+#include <kobtraduction/editor/LineEnds.h>
 
 #include <algorithm>
 #include <cstddef>
 
-namespace kob::qt {
+namespace kob {
 
 namespace {
 
-constexpr char16_t paragraphSeparator = 0x2029;
+constexpr char16_t symbolOfNul = 0x2400;
 
 bool isLineEnd(char16_t unit) {
   // The last two mark the frames of a document.
@@ -25,16 +25,19 @@ std::size_t lengthBefore(TextView text, std::size_t end) {
 }
 
 char16_t shownUnit(char16_t unit) {
+  if (unit == u'\0') {
+    return symbolOfNul;
+  }
   return isLineEnd(unit) ? paragraphSeparator : unit;
 }
 
-TextView firstLineEnd(TextView text) {
+TextView firstLineEnd(TextView text, TextView otherwise) {
   for (std::size_t place = 0; place < text.size(); ++place) {
     if (text[place] == u'\r' || text[place] == u'\n') {
       return text.substr(place, lengthAt(text, place));
     }
   }
-  return u"\n";
+  return otherwise;
 }
 
 }  // namespace
@@ -48,7 +51,7 @@ Text shownInDocument(TextView text) {
   return shown;
 }
 
-Text editedInDocument(TextView before, TextView shown) {
+Text editedInDocument(TextView before, TextView shown, TextView newLineEnd) {
   std::size_t head = 0;
   std::size_t shownHead = 0;
   while (head < before.size() && shownHead < shown.size() && shownUnit(before[head]) == shown[shownHead]) {
@@ -61,7 +64,7 @@ Text editedInDocument(TextView before, TextView shown) {
     tail -= lengthBefore(before, tail);
     --shownTail;
   }
-  const TextView lineEnd = firstLineEnd(before);
+  const TextView lineEnd = firstLineEnd(before, newLineEnd);
   Text edited(before.substr(0, head));
   for (const char16_t unit : shown.substr(shownHead, shownTail - shownHead)) {
     if (unit == paragraphSeparator) {
@@ -74,4 +77,4 @@ Text editedInDocument(TextView before, TextView shown) {
   return edited;
 }
 
-}  // namespace kob::qt
+}  // namespace kob

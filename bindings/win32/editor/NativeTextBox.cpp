@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#include "NativeTextBox.h"
+
+#include <kobtraduction/editor/LineEnds.h>
+
+#include <string_view>
+
+namespace kob::win32 {
+
+namespace {
+
+/// Where a field of one line shows a line end.
+constexpr wchar_t lineEndInLine = 0x2424;
+
+/// A text with its line ends as the control needs them.
+std::wstring forControl(TextView text, bool hasLines) {
+  std::wstring result;
+  for (const char16_t unit : shownInDocument(text)) {
+    if (unit != paragraphSeparator) {
+      result += static_cast<wchar_t>(unit);
+    } else if (hasLines) {
+      result += L"\r\n";
+    } else {
+      result += lineEndInLine;
+    }
+  }
+  return result;
+}
+
+/// What a control shows, with one unit for a line end.
+Text asDocument(std::wstring_view text, bool hasLines) {
+  Text result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool isPair = text[i] == L'\r' && i + 1 < text.size() && text[i + 1] == L'\n';
+    i += isPair ? 1 : 0;
+    const bool isEnd = text[i] == L'\r' || text[i] == L'\n' || (!hasLines && text[i] == lineEndInLine);
+    result += isEnd ? paragraphSeparator : static_cast<char16_t>(text[i]);
+  }
+  return result;
+}
+
+/// Whether the first letter that has a direction is read from right to left.
+bool isRightToLeft(const std::wstring& text) {
+  if (text.empty()) {
+    return false;
+  }
+  std::wstring kinds(text.size(), L'\0');
+  GetStringTypeW(CT_CTYPE2, text.c_str(), static_cast<int>(text.size()),
+                 reinterpret_cast<WORD*>(kinds.data()));
+  for (const wchar_t kind : kinds) {
+    if (kind == C2_LEFTTORIGHT || kind == C2_RIGHTTOLEFT) {
+      return kind == C2_RIGHTTOLEFT;
+    }
+  }
+  return false;
+}
+
+bool isEditingKey(const MSG& key) {
+  return key.message == WM_KEYDOWN && (key.wParam == VK_TAB || key.wParam == VK_ESCAPE);
+}
+
+}  // namespace
+
+NativeTextBox::NativeTextBox(DialogWindow& window, const WidgetId& id, Surroundings& around, HWND control)
+    : OnScreen(window, id, around, control) {
+  constexpr WPARAM unlimited = 0x7ffffffe;
+  send(EM_SETLIMITTEXT, unlimited);
+  around.controls().subclass(control, keys, this);
+}
+
+bool NativeTextBox::hasLines() const {
+  return (GetWindowLongW(control(), GWL_STYLE) & ES_MULTILINE) != 0;
+}
+
+void NativeTextBox::onCommand(WORD code) {
+  // A locked text can change by no key, but by what programs send.
+  if (code != EN_CHANGE || isQuiet_ || isLocked() || !answers()) {
+    return;
+  }
+  const std::wstring text = windowText(control());
+  showDirection(text);
+  personTyped(editedInDocument(TextBox::text(), asDocument(text, hasLines()), u"\r\n"));
+}
+
+void NativeTextBox::showText(TextView text) {
+  const Quiet quiet(isQuiet_);
+  const std::wstring native = forControl(text, hasLines());
+  SetWindowTextW(control(), native.c_str());
+  showDirection(native);
+}
+
+void NativeTextBox::showLocked(bool locked) {
+  send(EM_SETREADONLY, locked ? TRUE : FALSE);
+}
+
+void NativeTextBox::showDirection(const std::wstring& text) {
+  constexpr LONG mirrored = WS_EX_RTLREADING | WS_EX_RIGHT;
+  const auto before = GetWindowLongW(control(), GWL_EXSTYLE);
+  const auto after = isRightToLeft(text) ? before | mirrored : before & ~mirrored;
+  if (before != after) {
+    SetWindowLongW(control(), GWL_EXSTYLE, after);
+    InvalidateRect(control(), nullptr, TRUE);
+  }
+}
+
+LRESULT CALLBACK NativeTextBox::keys(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+                                     DWORD_PTR self) {
+  auto& box = *reinterpret_cast<NativeTextBox*>(self);
+  const Controls& controls = box.around().controls();
+  if (message == WM_GETDLGCODE) {
+    // The control's own answer takes Tab and Escape from the dialog, and closes its parent on the latter.
+    const auto* const key = reinterpret_cast<const MSG*>(lParam);
+    const bool isDialogs = key != nullptr && isEditingKey(*key);
+    const LRESULT wanted = DLGC_HASSETSEL | DLGC_WANTARROWS | DLGC_WANTCHARS;
+    return box.hasLines() && key != nullptr && !isDialogs ? wanted | DLGC_WANTALLKEYS : wanted;
+  }
+  constexpr WPARAM controlA = 1;
+  if (message == WM_CHAR && wParam == controlA) {
+    SendMessageW(edit, EM_SETSEL, 0, -1);
+    return 0;
+  }
+  if (message == WM_NCDESTROY) {
+    controls.release(edit, keys);
+  }
+  return controls.call(edit, message, wParam, lParam);
+}
+
+}  // namespace kob::win32
