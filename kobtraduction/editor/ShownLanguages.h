@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #pragma once
 
+#include <kobtraduction/base/Export.h>
 #include <kobtraduction/base/Text.h>
 
-#include <array>
 #include <cstdint>
 
 namespace kob {
@@ -15,14 +15,7 @@ struct ShownLanguage {
   std::uint32_t colour;  ///< 0xrrggbb; white is read on it
 };
 
-/// Language n is item n - 1.
-inline constexpr std::array<ShownLanguage, 6> shownLanguageList{{
-    {u"Français", u"FR", 0x2f5fb3},
-    {u"English", u"EN", 0x9b2d3f},
-    {u"Nederlands", u"NL", 0xb0560f},
-    {u"Deutsch", u"DE", 0x5f6673},
-    {u"Italiano", u"IT", 0x2a7a4b},
-    {u"Español", u"ES", 0x7f6200},
-}};
+/// By the language's number, from 1; null for one that the editor does not show.
+KOB_EXPORT const ShownLanguage* shownLanguage(std::int32_t language) noexcept;
 
 }  // namespace kob

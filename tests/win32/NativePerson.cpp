@@ -158,7 +158,7 @@ bool NativePerson::clickTag(TextView tag) {
   return clickNode(tree().find(tag));
 }
 
-void NativePerson::key(WPARAM key, std::initializer_list<int> modifiers) const {
+void NativePerson::key(WPARAM key, const std::vector<int>& modifiers) const {
   BYTE state[256] = {};
   for (const int modifier : modifiers) {
     state[modifier] = 0x80;

@@ -33,7 +33,7 @@ class NativePerson {
   bool clickTag(TextView tag);
   /// A key with the modifiers (VK_...) that are held, to the control with the focus; it arrives once the
   /// window handles its messages again.
-  void key(WPARAM key, std::initializer_list<int> modifiers = {}) const;
+  void key(WPARAM key, const std::vector<int>& modifiers = {}) const;
   void focus(TextView name, std::int32_t index = -1) const { SetFocus(control(name, index)); }
   void mouse(HWND at, UINT message, WPARAM buttons, int x, int y) const;
 

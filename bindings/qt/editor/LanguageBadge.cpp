@@ -15,11 +15,6 @@ constexpr int horizontalMargin = 5;
 constexpr int verticalMargin = 2;
 constexpr double corner = 3;
 
-const ShownLanguage* shown(int language) {
-  const auto index = static_cast<std::size_t>(language) - 1;
-  return index < shownLanguageList.size() ? &shownLanguageList[index] : nullptr;
-}
-
 QFont codeFont(const QWidget& widget) {
   QFont font = widget.font();
   font.setBold(true);
@@ -29,7 +24,7 @@ QFont codeFont(const QWidget& widget) {
 }  // namespace
 
 QString languageName(int language) {
-  const ShownLanguage* const found = shown(language);
+  const ShownLanguage* const found = shownLanguage(language);
   return found != nullptr ? toQString(found->name) : QString();
 }
 
@@ -47,7 +42,7 @@ QSize LanguageBadge::sizeHint() const {
 }
 
 void LanguageBadge::paintEvent(QPaintEvent* /*event*/) {
-  const ShownLanguage* const found = shown(language_);
+  const ShownLanguage* const found = shownLanguage(language_);
   if (found == nullptr) {
     return;
   }

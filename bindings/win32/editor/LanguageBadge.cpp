@@ -11,11 +11,6 @@ constexpr int horizontalMargin = 5;
 constexpr int verticalMargin = 2;
 constexpr int corner = 3;
 
-const ShownLanguage* shownLanguage(int language) {
-  const auto index = static_cast<std::size_t>(language) - 1;
-  return index < shownLanguageList.size() ? &shownLanguageList[index] : nullptr;
-}
-
 COLORREF colourOf(const ShownLanguage& language, bool isEnabled) {
   const auto channel = [&](unsigned shift) {
     const std::uint32_t value = (language.colour >> shift) & 0xff;

@@ -56,6 +56,11 @@ int Metrics::pixels(double units) const noexcept {
   return static_cast<int>(std::lround(units * dpi_ / (15.0 * 96)));
 }
 
+int Metrics::fieldHeight(int lines) const noexcept {
+  // The text stands at the top of the room within the edge, which does not grow with the letters.
+  return lines * line_ + 2 * GetSystemMetrics(SM_CYEDGE) + 4;
+}
+
 int Metrics::textWidth(const std::wstring& text, bool isBold) const {
   const Measuring measuring(isBold ? boldFont_ : font_);
   SIZE size = {};

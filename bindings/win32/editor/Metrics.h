@@ -34,7 +34,7 @@ class Metrics {
   int gap() const noexcept { return px(6); }
   int buttonHeight() const noexcept { return line_ + px(10); }
   /// Of a field of one line, and of one of more.
-  int fieldHeight(int lines = 1) const noexcept { return lines * line_ + px(8); }
+  int fieldHeight(int lines = 1) const noexcept;
 
  private:
   int dpi_;

@@ -79,14 +79,17 @@ void NativeTextBox::onCommand(WORD code) {
   }
   const std::wstring text = windowText(control());
   showDirection(text);
+  fitScrollBar();
   personTyped(editedInDocument(TextBox::text(), asDocument(text, hasLines()), u"\r\n"));
 }
 
 void NativeTextBox::showText(TextView text) {
   const Quiet quiet(isQuiet_);
   const std::wstring native = forControl(text, hasLines());
-  SetWindowTextW(control(), native.c_str());
+  // First the direction: lines that are there already do not follow it.
   showDirection(native);
+  SetWindowTextW(control(), native.c_str());
+  fitScrollBar();
 }
 
 void NativeTextBox::showLocked(bool locked) {
@@ -94,12 +97,41 @@ void NativeTextBox::showLocked(bool locked) {
 }
 
 void NativeTextBox::showDirection(const std::wstring& text) {
-  constexpr LONG mirrored = WS_EX_RTLREADING | WS_EX_RIGHT;
-  const auto before = GetWindowLongW(control(), GWL_EXSTYLE);
-  const auto after = isRightToLeft(text) ? before | mirrored : before & ~mirrored;
-  if (before != after) {
-    SetWindowLongW(control(), GWL_EXSTYLE, after);
-    InvalidateRect(control(), nullptr, TRUE);
+  const bool isMirrored = isRightToLeft(text);
+  const auto mirror = [&](int which, LONG bits) {
+    const auto before = GetWindowLongW(control(), which);
+    const auto after = isMirrored ? before | bits : before & ~bits;
+    if (before != after) {
+      SetWindowLongW(control(), which, after);
+      InvalidateRect(control(), nullptr, TRUE);
+    }
+  };
+  // Some versions of the control look at the one, some at the other.
+  mirror(GWL_EXSTYLE, WS_EX_RTLREADING | WS_EX_RIGHT);
+  mirror(GWL_STYLE, ES_RIGHT);
+}
+
+void NativeTextBox::fitScrollBar() {
+  // Showing the bar changes the size.
+  if (!hasLines() || isFitting_) {
+    return;
+  }
+  const Quiet fitting(isFitting_);
+  const auto fits = [this] {
+    RECT inside = {};
+    send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&inside));
+    const LRESULT height = send(EM_GETLINECOUNT) * around().metrics().line();
+    return height <= inside.bottom - inside.top || send(EM_GETLINECOUNT) == 1;
+  };
+  const auto show = [this](bool isScrolled) {
+    isScrolled_ = isScrolled;
+    ShowScrollBar(control(), SB_VERT, isScrolled ? TRUE : FALSE);
+  };
+  if (isScrolled_) {
+    show(false);
+  }
+  if (!fits()) {
+    show(true);
   }
 }
 
@@ -121,6 +153,10 @@ LRESULT CALLBACK NativeTextBox::keys(HWND edit, UINT message, WPARAM wParam, LPA
   }
   if (message == WM_NCDESTROY) {
     controls.release(edit, keys);
+  } else if (message == WM_SIZE) {
+    const LRESULT result = controls.call(edit, message, wParam, lParam);
+    box.fitScrollBar();
+    return result;
   }
   return controls.call(edit, message, wParam, lParam);
 }

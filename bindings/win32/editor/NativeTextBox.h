@@ -21,8 +21,12 @@ class NativeTextBox final : public OnScreen<TextBox> {
   void showLocked(bool locked) override;
   void showDirection(const std::wstring& text);
   bool hasLines() const;
+  /// A bar to scroll by stands beside a text that has not the room for all its lines.
+  void fitScrollBar();
 
   bool isQuiet_ = false;
+  bool isScrolled_ = false;
+  bool isFitting_ = false;
 };
 
 }  // namespace kob::win32

@@ -24,7 +24,8 @@ int nameHeight(const Placing& placing) {
 void putName(const Placing& placing, int width) {
   const Metrics& m = placing.m;
   int top = m.margin();
-  const int first = std::max(placing.labelWidth(u"lbName"), placing.labelWidth(u"lContexte"));
+  const int first = std::max(placing.labelWidth(u"lbName"),
+                             placing.isShown(u"lContexte") ? placing.labelWidth(u"lContexte") : 0);
   const int left = m.margin() + first + m.gap();
   const int second = placing.labelWidth(u"Label2");
   const int fields = width - left - second - 2 * m.gap() - m.margin();

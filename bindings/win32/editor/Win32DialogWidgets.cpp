@@ -189,8 +189,7 @@ Slider& Win32DialogWindow::addSlider(const WidgetId& id) {
 }
 
 TextBox& Win32DialogWindow::addTextBox(const WidgetId& id) {
-  const DWORD lines =
-      hasManyLines(id.name) ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL : ES_AUTOHSCROLL;
+  const DWORD lines = hasManyLines(id.name) ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL : ES_AUTOHSCROLL;
   return keep<NativeTextBox>(id, make(id, L"Edit", WS_TABSTOP | WS_GROUP | lines, WS_EX_CLIENTEDGE));
 }
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "Desk.h"
-#include "SampleModel.h"
+#include "tests/editor/SampleModel.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
@@ -73,7 +73,7 @@ struct EditorOnServer : EditorOnScreen {
       GTEST_SKIP() << "needs xdotool to press keys";
     }
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    fillSample(model);
+    kob::testing::fillSample(model);
   }
 };
 

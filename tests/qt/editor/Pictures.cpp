@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "Desk.h"
 #include "PictureChecks.h"
-#include "SampleModel.h"
+#include "tests/editor/SampleModel.h"
 
 #include <QApplication>
 #include <QDir>
@@ -45,7 +45,7 @@ class EditorPictures : public ::testing::Test {
     }
   }
 
-  EditorPictures() { fillSample(model_); }
+  EditorPictures() { kob::testing::fillSample(model_); }
 
   static void look(const Window& window, const char* name) {
     QTest::qWait(30);

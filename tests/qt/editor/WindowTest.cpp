@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "Desk.h"
-#include "SampleModel.h"
+#include "tests/editor/SampleModel.h"
 
 #include <kobtraduction/base/Failure.h>
 

@@ -3,7 +3,7 @@
 
 #include "tests/model/ModelVocabulary.h"
 
-namespace kob::qt::testing {
+namespace kob::testing {
 
 using namespace kob::test;
 
@@ -43,4 +43,4 @@ void fillSample(KOBModeleTraduction& model) {
   }
 }
 
-}  // namespace kob::qt::testing
+}  // namespace kob::testing
