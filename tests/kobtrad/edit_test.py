@@ -164,6 +164,20 @@ class OnScreen(harness.CommandTest):
         self.assertEqual(self.names(), ["app.trad", "app.trad.recovery.old"])
         self.assertEqual(self.kobtrad("get", "app.trad.recovery.old", CANCEL, 2).out, "Cancel\n")
 
+    @unittest.skipUnless("KOB_THREE_LANGUAGES" in os.environ, "needs KOB_THREE_LANGUAGES, which ctest gives")
+    def test_three_languages_become_six_in_the_window_and_in_the_file_once_saved(self):
+        subprocess.run([os.environ["KOB_THREE_LANGUAGES"], self.file("app.trad")], check=True)
+        self.assertEqual(self.kobtrad("languages", "app.trad").out, "3\n")
+        editor = self.open("--mode", "0", "--path", "Message")
+        self.focus("^Traduction")
+        self.assertIn(MARK, self.title(), "the file has three languages still")
+        self.assertEqual(self.kobtrad("languages", "app.trad").out, "3\n")
+        self.hands("key", "ctrl+s")
+        self.wait_for(lambda: MARK not in self.title())
+        self.assertIn("app.trad has fewer languages than the editor's six (3)", self.close(editor))
+        self.assertEqual(self.kobtrad("languages", "app.trad").out, "6\n")
+        self.assertEqual(self.kobtrad("get", "app.trad", "Message", 2).out, "Yes\n")
+
     def test_a_file_is_open_in_one_editor_only(self):
         editor = self.open()
         self.focus("^Traduction")
