@@ -52,7 +52,7 @@ std::optional<DISPID> DispatchObject::memberOf(Property property) {
   const auto at = static_cast<std::size_t>(property);
   const std::uint32_t bit = 1U << at;
   if ((known_ & bit) == 0) {
-    const std::optional<DISPID> found = object_.find(nameOf(property));
+    const std::optional<DISPID> found = lookUp(property);
     if (!found) {
       return std::nullopt;
     }
@@ -60,6 +60,27 @@ std::optional<DISPID> DispatchObject::memberOf(Property property) {
     known_ |= bit;
   }
   return members_[at];
+}
+
+std::optional<DISPID> DispatchObject::lookUp(Property property) {
+  if (!isClassAsked_) {
+    class_ = object_.isExtended() ? nullptr : classMembersOf(*object_.object());
+    isClassAsked_ = true;
+  }
+  if (class_ == nullptr) {
+    return object_.find(nameOf(property));
+  }
+  DISPID member = class_->of(property);
+  if (member == ClassMembers::notAsked) {
+    const HRESULT found = object_.find(nameOf(property), member);
+    if (FAILED(found) && found != DISP_E_UNKNOWNNAME) {
+      // This object is gone; it tells nothing about its class.
+      return std::nullopt;
+    }
+    class_->set(property, FAILED(found) ? DISPID_UNKNOWN : member);
+    member = class_->of(property);
+  }
+  return member != DISPID_UNKNOWN ? std::optional(member) : std::nullopt;
 }
 
 std::optional<Value> DispatchObject::get(Property property) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #pragma once
 
+#include "ClassMembers.h"
 #include "HostValue.h"
 #include "LateBound.h"
 
@@ -17,7 +18,8 @@ namespace kob::automation {
 /// is gone, a value that makes no sense) is a failed operation.
 ///
 /// A name is looked up once per object and call: an object of this class lives no longer than one call of the
-/// component. What was not found is looked for again.
+/// component. What was not found is looked for again, since a script may add it meanwhile. For compiled
+/// classes that are closed a name is looked up once and for all.
 class DispatchObject final : public HostObject {
  public:
   explicit DispatchObject(IDispatch* object) : object_(object) {}
@@ -37,6 +39,7 @@ class DispatchObject final : public HostObject {
 
  private:
   std::optional<DISPID> memberOf(Property property);
+  std::optional<DISPID> lookUp(Property property);
   std::optional<std::vector<HostRef>> byEnumerator() const;
   std::optional<std::vector<HostRef>> byCount();
   /// How many members an array of a script language has, which is an object with the names "0", "1" ...
@@ -46,6 +49,8 @@ class DispatchObject final : public HostObject {
   LateBound object_;
   mutable ComRef<IUnknown> identity_;
   std::array<DISPID, propertyCount> members_{};
+  ClassMembers* class_ = nullptr;
+  bool isClassAsked_ = false;
   /// A bit for each property whose member is known.
   std::uint32_t known_ = 0;
   static_assert(propertyCount <= 32);

@@ -37,21 +37,23 @@ IDispatchEx* LateBound::extended() const noexcept {
   return extended_.get();
 }
 
-std::optional<DISPID> LateBound::find(const Bstr& name) const {
-  DISPID member = DISPID_UNKNOWN;
+HRESULT LateBound::find(const Bstr& name, DISPID& member) const {
+  member = DISPID_UNKNOWN;
+  HRESULT found = E_NOTIMPL;
   if (IDispatchEx* const byCase = extended()) {
     // Script objects answer this one only, and are asked in it to ignore the case.
-    const HRESULT found = byCase->GetDispID(name.get(), fdexNameCaseInsensitive, &member);
-    if (SUCCEEDED(found)) {
-      return member != DISPID_UNKNOWN ? std::optional(member) : std::nullopt;
-    }
-    if (found == DISP_E_UNKNOWNNAME) {
-      return std::nullopt;
-    }
+    found = byCase->GetDispID(name.get(), fdexNameCaseInsensitive, &member);
   }
-  LPOLESTR names = name.get();
-  const HRESULT found = object_->GetIDsOfNames(IID_NULL, &names, 1, locale, &member);
-  return SUCCEEDED(found) && member != DISPID_UNKNOWN ? std::optional(member) : std::nullopt;
+  if (FAILED(found) && found != DISP_E_UNKNOWNNAME) {
+    LPOLESTR names = name.get();
+    found = object_->GetIDsOfNames(IID_NULL, &names, 1, locale, &member);
+  }
+  return SUCCEEDED(found) && member == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : found;
+}
+
+std::optional<DISPID> LateBound::find(const Bstr& name) const {
+  DISPID member = DISPID_UNKNOWN;
+  return SUCCEEDED(find(name, member)) ? std::optional(member) : std::nullopt;
 }
 
 HRESULT LateBound::read(DISPID member, VARIANT& value) const {

@@ -16,8 +16,12 @@ class LateBound {
 
   IDispatch* object() const noexcept { return object_.get(); }
 
+  /// Whether the object has the names of script objects, which come and go.
+  bool isExtended() const noexcept { return extended() != nullptr; }
   /// The number of a member, letter case ignored where the object can do that.
   std::optional<DISPID> find(const Bstr& name) const;
+  /// The same; DISP_E_UNKNOWNNAME when there is no such member.
+  HRESULT find(const Bstr& name, DISPID& member) const;
 
   HRESULT read(DISPID member, VARIANT& value) const;
   HRESULT readAt(DISPID member, std::int32_t index, VARIANT& value) const;

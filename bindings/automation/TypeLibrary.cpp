@@ -2,6 +2,7 @@
 #include "TypeLibrary.h"
 
 #include "Errors.h"
+#include "GuidLess.h"
 #include "Module.h"
 
 #include <map>
@@ -12,14 +13,10 @@ namespace kob::automation {
 
 namespace {
 
-struct IidLess {
-  bool operator()(const IID& a, const IID& b) const noexcept { return memcmp(&a, &b, sizeof a) < 0; }
-};
-
 std::mutex loading;
 /// Never released: when the DLL goes, the library that made them may have gone before.
-std::map<IID, ITypeInfo*, IidLess>& loadedInfos() {
-  static auto* const infos = new std::map<IID, ITypeInfo*, IidLess>;
+std::map<IID, ITypeInfo*, GuidLess>& loadedInfos() {
+  static auto* const infos = new std::map<IID, ITypeInfo*, GuidLess>;
   return *infos;
 }
 

@@ -72,12 +72,16 @@ HRESULT DispatchDouble::GetTypeInfoCount(UINT* count) {
 }
 
 HRESULT DispatchDouble::GetTypeInfo(UINT /*index*/, LCID /*locale*/, ITypeInfo** info) {
-  *info = nullptr;
-  return E_NOTIMPL;
+  *info = type_.get();
+  if (type_) {
+    type_->AddRef();
+  }
+  return type_ ? S_OK : E_NOTIMPL;
 }
 
 HRESULT DispatchDouble::GetIDsOfNames(REFIID /*reserved*/, LPOLESTR* names, UINT /*count*/, LCID /*locale*/,
                                       DISPID* ids) {
+  ++lookUps;
   if (FAILED(dead_)) {
     return dead_;
   }

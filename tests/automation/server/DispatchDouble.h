@@ -51,6 +51,10 @@ class DispatchDouble final : public IDispatch {
   void setEnumerator(Member member) { special_[DISPID_NEWENUM] = std::move(member); }
   /// What a property holds now.
   Variant value(TextView name) const;
+  /// The object describes itself so.
+  void setType(ComPtr<ITypeInfo> type) { type_ = std::move(type); }
+  /// How often a name was looked up.
+  int lookUps = 0;
   /// Everything fails with this result from now on.
   void die(HRESULT result) { dead_ = result; }
   /// Kinds of calls by name, in order: "get tag", "put tag" ...; the default member is "item".
@@ -79,6 +83,7 @@ class DispatchDouble final : public IDispatch {
 
   ULONG references_ = 1;
   HRESULT dead_ = S_OK;
+  ComPtr<ITypeInfo> type_;
   /// A member's number is its place, from 1.
   std::vector<Property> properties_;
   std::map<DISPID, Member> special_;

@@ -355,6 +355,44 @@ TEST_F(HostObjectTest, APlainMemberIsIndexedThroughWhatItHolds) {
   EXPECT_FALSE(host_->setIndexed(Property::TabCaption, 0, Value(u"y")));
 }
 
+TEST_F(HostObjectTest, OfAClosedClassIsAskedForANameOnceAndForAll) {
+  const auto make = [](const IID& type) {
+    ComPtr<DispatchDouble> control = named(u"a");
+    ComPtr<ITypeInfo> info;
+    EXPECT_EQ(typeLibrary()->GetTypeInfoOfGuid(type, info.out()), S_OK);
+    control->setType(std::move(info));
+    return control;
+  };
+  // The first of its class tells what the class has and lacks.
+  const ComPtr<DispatchDouble> first = make(__uuidof(_KOBCellTraduction));
+  EXPECT_EQ(textOf(hostOf(first), Property::Name), u"a");
+  EXPECT_FALSE(hostOf(first)->get(Property::Index));
+  EXPECT_EQ(first->lookUps, 2);
+  const ComPtr<DispatchDouble> second = make(__uuidof(_KOBCellTraduction));
+  EXPECT_EQ(textOf(hostOf(second), Property::Name), u"a");
+  EXPECT_FALSE(hostOf(second)->get(Property::Index));
+  EXPECT_EQ(second->lookUps, 0);
+  // An open class may have more in one object than in another.
+  for (int i = 0; i < 2; ++i) {
+    const ComPtr<DispatchDouble> open = make(__uuidof(IKOBVBStream));
+    EXPECT_EQ(textOf(hostOf(open), Property::Name), u"a");
+    EXPECT_FALSE(hostOf(open)->get(Property::Index));
+    EXPECT_EQ(open->lookUps, 2);
+  }
+}
+
+TEST_F(HostObjectTest, ThatIsGoneTellsNothingAboutItsClass) {
+  ComPtr<ITypeInfo> info;
+  ASSERT_EQ(typeLibrary()->GetTypeInfoOfGuid(__uuidof(_KOBTraductionObj), info.out()), S_OK);
+  const ComPtr<DispatchDouble> gone = named(u"a");
+  gone->setType(info);
+  gone->die(CO_E_OBJNOTCONNECTED);
+  EXPECT_FALSE(hostOf(gone)->get(Property::Name));
+  object_->set(u"Name", Variant(u"b"));
+  object_->setType(info);
+  EXPECT_EQ(textOf(host_, Property::Name), u"b");
+}
+
 TEST_F(HostObjectTest, NothingIsNoHost) {
   EXPECT_EQ(automation::hostOf(static_cast<IUnknown*>(nullptr)), nullptr);
   EXPECT_EQ(automation::hostOf(*raw(VT_EMPTY).get()), nullptr);
