@@ -208,8 +208,13 @@ void contestOfTyping(int count, const std::function<void(Contest&)>& run) {
     contest.setPasses(passes);
     contest.add("in the editor", 1, [&](int pass) { typeIn(box, pass); });
     contest.add("in a bare box", 1, [&](int pass) { typeIn(bare.box(), pass); });
-    contest.expect({"in the editor", "in a bare box", 2});
-    contest.expect({"in the editor", {}, frame});
+    // The index by which clicks complete texts goes along.
+    auto& reference = *editor.findChild<QPlainTextEdit*>(QStringLiteral("tbTradMessage(0)"));
+    contest.add("in the reference text", 1, [&](int pass) { typeIn(reference, pass); });
+    for (const char* const where : {"in the editor", "in the reference text"}) {
+      contest.expect({where, "in a bare box", 2});
+      contest.expect({where, {}, frame});
+    }
     run(contest);
   });
 }
