@@ -6,6 +6,7 @@ namespace kob::win32 {
 namespace {
 
 constexpr LPARAM bigStep = 10;
+constexpr int thumbLength = 14;
 
 }  // namespace
 
@@ -15,6 +16,7 @@ NativeSlider::NativeSlider(DialogWindow& window, const WidgetId& id, Surrounding
   setFont(caption_);
   setFont(value_);
   send(TBM_SETPAGESIZE, 0, bigStep);
+  scaleThumb();
   around.controls().subclass(control, wheel, this);
 }
 
@@ -44,6 +46,12 @@ void NativeSlider::rescale() {
   for (const HWND part : {control(), caption_, value_}) {
     setFont(part);
   }
+  scaleThumb();
+}
+
+void NativeSlider::scaleThumb() {
+  // By itself it keeps its size at any scaling.
+  send(TBM_SETTHUMBLENGTH, static_cast<WPARAM>(around().metrics().px(thumbLength)));
 }
 
 void NativeSlider::forget() noexcept {

@@ -29,6 +29,7 @@ class NativeSlider final : public OnScreen<Slider> {
   void showRange(std::int32_t minimum, std::int32_t maximum) override;
   void showValue(std::int32_t value) override;
   void writeValue(std::int32_t value);
+  void scaleThumb();
 
   HWND caption_;
   HWND value_;

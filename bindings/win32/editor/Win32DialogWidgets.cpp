@@ -183,7 +183,8 @@ void Win32DialogWindow::explain(HWND control, const std::wstring& text) {
 
 Slider& Win32DialogWindow::addSlider(const WidgetId& id) {
   const HWND caption = make(id, L"Static", SS_LEFT | SS_NOPREFIX | SS_CENTERIMAGE);
-  const HWND trackbar = make(id, TRACKBAR_CLASSW, WS_TABSTOP | WS_GROUP | TBS_HORZ | TBS_NOTICKS);
+  const HWND trackbar =
+      make(id, TRACKBAR_CLASSW, WS_TABSTOP | WS_GROUP | TBS_HORZ | TBS_BOTH | TBS_NOTICKS | TBS_FIXEDLENGTH);
   const HWND value = make(id, L"Static", SS_RIGHT | SS_NOPREFIX | SS_CENTERIMAGE);
   return keep<NativeSlider>(id, trackbar, caption, value);
 }
