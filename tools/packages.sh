@@ -10,7 +10,7 @@ declare -A packages=(
   [lint]="clang-14 clang-format-14 clang-tidy-14 shellcheck python3 git unicode-data"
   [fuzz]="clang-14 libclang-rt-14-dev llvm-14"
   [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 googletest fp-compiler
-             fpc-source"
+             fpc-source python3"
   [bench]="libbenchmark-dev gettext"
 )
 

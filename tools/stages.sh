@@ -125,7 +125,7 @@ stage_windows() {
   passed=$stage_passed failed=$stage_failed skipped=$stage_skipped
   # The other width is built, and looked into without running it.
   build_preset windows32 KOBTraductionServer
-  tools/windows/check_library.py build/windows32/bin/KOBTraduction.dll i386 bindings/automation/KOBTraduction.idl \
+  tools/windows/check_library.py build/windows32/bin/KOBTraduction.dll i686 bindings/automation/KOBTraduction.idl \
     >"$results/windows32.out" || true
   grep FAILED "$results/windows32.out" || true
   # shellcheck disable=SC2046

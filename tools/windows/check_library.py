@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: The KOBTraduction authors
-"""Looks into a DLL without running it: check_library.py DLL i386|x86-64 IDL.
+"""Looks into a DLL without running it: check_library.py DLL i686|x86_64 IDL.
 
 It must be of that machine, export just the entry points of a server, need nothing but what every Windows has, and carry
 a type library with every identifier of the interface file. Prints "passed failed 0" as its last line.
@@ -12,7 +12,7 @@ import struct
 import sys
 import uuid
 
-MACHINES = {"i386": 0x014C, "x86-64": 0x8664}
+MACHINES = {"i686": 0x014C, "x86_64": 0x8664}
 ENTRY_POINTS = ["DllCanUnloadNow", "DllGetClassObject", "DllInstall", "DllRegisterServer", "DllUnregisterServer"]
 OF_EVERY_WINDOWS = {"advapi32", "comctl32", "comdlg32", "gdi32", "kernel32", "msvcrt", "ole32", "oleaut32", "shell32",
                     "user32", "uxtheme"}
