@@ -15,6 +15,7 @@ run() {
     stage_bad() { counted 2 1 0; }
     stage_broken() { false; counted 1 0 0; }
     stage_lost() { :; }
+    stage_late() { counted 5 0 0; false; counted 6 0 0; }
     stage_two_words() { counted 1 0 0; }
     stage_none() { counted 0 0 1; }
     run_stages --only $1" 2>&1 | tail -n 1) || status=$?
@@ -29,6 +30,8 @@ run good,bad
 expect "a case failed" "$last ($status)" "5 passed, 1 failed, 1 skipped (1)"
 run broken,good
 expect "a command of a stage failed" "$last ($status)" "3 passed, 1 failed, 1 skipped (1)"
+run late
+expect "a command failed after something was counted" "$last ($status)" "5 passed, 1 failed, 0 skipped (1)"
 run lost
 expect "a stage counted nothing" "$last ($status)" "0 passed, 1 failed, 0 skipped (1)"
 run none
