@@ -32,14 +32,14 @@ ClassMembers::ClassMembers() noexcept {
 }
 
 ClassMembers* classMembersOf(IDispatch& object) noexcept {
-  static std::mutex guard;
-  // A process meets few classes. Never released: objects of any thread may be asked to its end.
-  static auto* const known = new std::map<GUID, ClassMembers, GuidLess>;
   const GUID id = closedClassOf(object);
   if (id == GUID_NULL) {
     return nullptr;
   }
   try {
+    static std::mutex guard;
+    // A process meets few classes. Never released: objects of any thread may be asked to its end.
+    static auto* const known = new std::map<GUID, ClassMembers, GuidLess>;
     const std::lock_guard lock(guard);
     return &(*known)[id];
   } catch (...) {
