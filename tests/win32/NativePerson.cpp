@@ -164,6 +164,10 @@ void NativePerson::key(WPARAM key, const std::vector<int>& modifiers) const {
     state[modifier] = 0x80;
   }
   SetKeyboardState(state);
+  if (GetFocus() == nullptr) {
+    // Another program came to the front; the window knows where the focus was.
+    SetForegroundWindow(window.handle());
+  }
   PostMessageW(GetFocus(), WM_KEYDOWN, key, 0);
 }
 
