@@ -43,18 +43,17 @@ Variant invoke(IDispatch* object, TextView name, WORD how, std::vector<Variant> 
   if (SUCCEEDED(failure)) {
     return result;
   }
-  ComError error{failure, failure, Text(name)};
-  if (failure == DISP_E_EXCEPTION) {
-    if (exception.pfnDeferredFillIn != nullptr) {
-      exception.pfnDeferredFillIn(&exception);
-    }
-    error.number = exception.scode;
-    error.description = textOf(exception.bstrDescription);
-    SysFreeString(exception.bstrSource);
-    SysFreeString(exception.bstrDescription);
-    SysFreeString(exception.bstrHelpFile);
+  if (failure != DISP_E_EXCEPTION) {
+    throw ComError{failure, failure, Text(name)};
   }
-  throw error;
+  if (exception.pfnDeferredFillIn != nullptr) {
+    exception.pfnDeferredFillIn(&exception);
+  }
+  const Text description = textOf(exception.bstrDescription);
+  SysFreeString(exception.bstrSource);
+  SysFreeString(exception.bstrDescription);
+  SysFreeString(exception.bstrHelpFile);
+  throw ComError{failure, exception.scode, description};
 }
 
 }  // namespace
@@ -94,7 +93,7 @@ Variant::Variant(const Variant& other) {
 
 Text Variant::text() const {
   const Variant as = converted(*this, VT_BSTR);
-  const BSTR held = as.get()->bstrVal;
+  BSTR held = as.get()->bstrVal;
   return Text(reinterpret_cast<const char16_t*>(held), SysStringLen(held));
 }
 
@@ -128,7 +127,7 @@ HRESULT memberId(IDispatch* object, TextView name, DISPID& id) {
   Text terminated(name);
   ComPtr<IDispatchEx> extended;
   if (SUCCEEDED(object->QueryInterface(__uuidof(IDispatchEx), extended.outVoid()))) {
-    const BSTR text = bstrOf(name);
+    BSTR text = bstrOf(name);
     const HRESULT result = extended->GetDispID(text, fdexNameCaseInsensitive, &id);
     SysFreeString(text);
     return result;

@@ -167,7 +167,7 @@ class VbWriter {
   }
 
   Text listClass(std::size_t count) {
-    const Text name = u"List" + digits(count);
+    Text name = u"List" + digits(count);
     if (lists_.insert(count).second) {
       classes_ += u"Class " + name + u"\n  Dim items(" + digits(count) + u")\n  Public Property Get Count\n" +
                   u"    Count = " + digits(count) + u"\n  End Property\n" +
