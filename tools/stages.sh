@@ -120,9 +120,15 @@ stage_windows() {
   build_preset windows64
   build_preset release kobresave
   run_ctest windows64
+  passed=$stage_passed failed=$stage_failed skipped=$stage_skipped
+  if tools/windows/wine build/windows64/bin/kobwindowsleft.exe; then
+    passed=$((passed + 1))
+  else
+    echo "FAILED: a test left a window open"
+    failed=$((failed + 1))
+  fi
   # Wine's own programs would stay for a while.
   WINEPREFIX=${KOB_WINEPREFIX:-$root/build/wine} wineserver -k || true
-  passed=$stage_passed failed=$stage_failed skipped=$stage_skipped
   # The other width is built, and looked into without running it.
   build_preset windows32 KOBTraductionServer
   tools/windows/check_library.py build/windows32/bin/KOBTraduction.dll i686 bindings/automation/KOBTraduction.idl \
