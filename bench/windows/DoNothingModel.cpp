@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "DoNothingModel.h"
 
+#include <tests/automation/hosts/scripting/Counted.h>
+
 #include <KOBTraduction.h>
 
 namespace kob::bench {
@@ -9,28 +11,13 @@ namespace {
 
 using hosts::ComPtr;
 
-class DoNothingModel final : public _KOBModeleTraduction {
+class DoNothingModel final : public hosts::Counted<_KOBModeleTraduction> {
  public:
   explicit DoNothingModel(ComPtr<ITypeInfo> type) : type_(std::move(type)) {}
-  DoNothingModel(const DoNothingModel&) = delete;
-  DoNothingModel& operator=(const DoNothingModel&) = delete;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
     const bool known = id == IID_IUnknown || id == IID_IDispatch || id == __uuidof(_KOBModeleTraduction);
-    *object = known ? this : nullptr;
-    if (!known) {
-      return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) {
-      delete this;
-    }
-    return left;
+    return answer(known ? this : nullptr, object);
   }
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
     *count = 1;
@@ -88,15 +75,12 @@ class DoNothingModel final : public _KOBModeleTraduction {
   }
 
  private:
-  ~DoNothingModel() = default;
-
   template <class T>
   static HRESULT none(T* place) {
     *place = T();
     return S_OK;
   }
 
-  ULONG references_ = 1;
   ComPtr<ITypeInfo> type_;
 };
 

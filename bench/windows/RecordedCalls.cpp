@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "RecordedCalls.h"
 
+#include <tests/automation/hosts/scripting/Counted.h>
+
 namespace kob::bench {
 
 namespace {
@@ -8,31 +10,16 @@ namespace {
 using hosts::ComPtr;
 using hosts::Variant;
 
-class Stand final : public IDispatchEx {
+class Stand final : public hosts::Counted<IDispatchEx> {
  public:
   Stand(RecordedCalls& calls, IDispatch* object) : calls_(calls), object_(object) {
     object->QueryInterface(__uuidof(IDispatchEx), extended_.outVoid());
   }
-  Stand(const Stand&) = delete;
-  Stand& operator=(const Stand&) = delete;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
     const bool known =
         id == IID_IUnknown || id == IID_IDispatch || (id == __uuidof(IDispatchEx) && extended_);
-    *object = known ? this : nullptr;
-    if (!known) {
-      return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) {
-      delete this;
-    }
-    return left;
+    return answer(known ? this : nullptr, object);
   }
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
     return object_->GetTypeInfoCount(count);
@@ -83,8 +70,6 @@ class Stand final : public IDispatchEx {
   HRESULT STDMETHODCALLTYPE GetNameSpaceParent(IUnknown**) override { return E_NOTIMPL; }
 
  private:
-  ~Stand() = default;
-
   void note(const OLECHAR* name) {
     calls_.add({object_,
                 extended_,
@@ -94,7 +79,6 @@ class Stand final : public IDispatchEx {
                 {}});
   }
 
-  ULONG references_ = 1;
   RecordedCalls& calls_;
   ComPtr<IDispatch> object_;
   ComPtr<IDispatchEx> extended_;

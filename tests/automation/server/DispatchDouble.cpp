@@ -49,21 +49,7 @@ Variant DispatchDouble::value(TextView name) const {
 }
 
 HRESULT DispatchDouble::QueryInterface(REFIID id, void** object) {
-  const bool known = id == IID_IUnknown || id == IID_IDispatch;
-  *object = known ? this : nullptr;
-  if (!known) {
-    return E_NOINTERFACE;
-  }
-  AddRef();
-  return S_OK;
-}
-
-ULONG DispatchDouble::Release() {
-  const ULONG left = --references_;
-  if (left == 0) {
-    delete this;
-  }
-  return left;
+  return answer(id == IID_IUnknown || id == IID_IDispatch ? this : nullptr, object);
 }
 
 HRESULT DispatchDouble::GetTypeInfoCount(UINT* count) {

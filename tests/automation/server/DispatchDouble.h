@@ -3,6 +3,8 @@
 
 #include "LoadedServer.h"
 
+#include <tests/automation/hosts/scripting/Counted.h>
+
 #include <functional>
 #include <map>
 #include <string>
@@ -36,11 +38,9 @@ using Member = std::function<HRESULT(const Call&)>;
 
 /// A host's object that is made of members, which can be told to fail, and that notes what it is asked. Names
 /// are found in any letter case.
-class DispatchDouble final : public IDispatch {
+class DispatchDouble final : public hosts::Counted<IDispatch> {
  public:
   DispatchDouble() = default;
-  DispatchDouble(const DispatchDouble&) = delete;
-  DispatchDouble& operator=(const DispatchDouble&) = delete;
 
   /// A property that can be read and assigned.
   void set(TextView name, Variant value);
@@ -61,8 +61,6 @@ class DispatchDouble final : public IDispatch {
   std::vector<std::string> calls;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override;
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override;
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
   HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale,
@@ -78,10 +76,8 @@ class DispatchDouble final : public IDispatch {
     Member member;
   };
 
-  ~DispatchDouble() = default;
   Property& property(TextView name);
 
-  ULONG references_ = 1;
   HRESULT dead_ = S_OK;
   ComPtr<ITypeInfo> type_;
   /// A member's number is its place, from 1.

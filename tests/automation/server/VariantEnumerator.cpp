@@ -1,32 +1,19 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "VariantEnumerator.h"
 
+#include <tests/automation/hosts/scripting/Counted.h>
+
 namespace kob::testing {
 
 namespace {
 
-class VariantEnumerator final : public IEnumVARIANT {
+class VariantEnumerator final : public hosts::Counted<IEnumVARIANT> {
  public:
   VariantEnumerator(std::vector<Variant> items, HRESULT ends) : items_(std::move(items)), ends_(ends) {}
-  VariantEnumerator(const VariantEnumerator&) = delete;
-  VariantEnumerator& operator=(const VariantEnumerator&) = delete;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
     const bool known = id == IID_IUnknown || id == IID_IEnumVARIANT;
-    *object = known ? this : nullptr;
-    if (!known) {
-      return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) {
-      delete this;
-    }
-    return left;
+    return answer(known ? this : nullptr, object);
   }
   HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* items, ULONG* fetched) override {
     ULONG done = 0;
@@ -44,9 +31,6 @@ class VariantEnumerator final : public IEnumVARIANT {
   HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT** /*copy*/) override { return E_NOTIMPL; }
 
  private:
-  ~VariantEnumerator() = default;
-
-  ULONG references_ = 1;
   std::size_t next_ = 0;
   std::vector<Variant> items_;
   HRESULT ends_;

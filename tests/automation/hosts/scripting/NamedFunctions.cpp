@@ -1,52 +1,27 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "NamedFunctions.h"
 
+#include "Counted.h"
+
 #include <kobtraduction/base/Text.h>
 
 #include <oleauto.h>
 
 #include <algorithm>
-#include <atomic>
 #include <memory>
 
 namespace kob::hosts {
 
 namespace {
 
-/// What IUnknown asks of an object with one interface.
-template <class Interface, const IID* interfaceId>
-class Counted : public Interface {
- public:
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    if (id != IID_IUnknown && id != *interfaceId) {
-      *object = nullptr;
-      return E_NOINTERFACE;
-    }
-    *object = static_cast<Interface*>(this);
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) {
-      delete this;
-    }
-    return left;
-  }
-
- protected:
-  virtual ~Counted() = default;
-
- private:
-  std::atomic<ULONG> references_{1};
-};
-
-class NamedFunctions final : public Counted<IDispatch, &IID_IDispatch> {
+class NamedFunctions final : public Counted<IDispatch> {
  public:
   explicit NamedFunctions(std::vector<std::pair<Text, Function>> functions)
       : functions_(std::move(functions)) {}
 
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+    return answer(id == IID_IUnknown || id == IID_IDispatch ? this : nullptr, object);
+  }
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
     *count = 0;
     return S_OK;
@@ -113,9 +88,13 @@ class NamedFunctions final : public Counted<IDispatch, &IID_IDispatch> {
 
 using Items = std::vector<Variant>;
 
-class ItemEnumerator final : public Counted<IEnumVARIANT, &IID_IEnumVARIANT> {
+class ItemEnumerator final : public Counted<IEnumVARIANT> {
  public:
   ItemEnumerator(std::shared_ptr<Items> items, std::size_t next) : items_(std::move(items)), next_(next) {}
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+    return answer(id == IID_IUnknown || id == IID_IEnumVARIANT ? this : nullptr, object);
+  }
 
   HRESULT STDMETHODCALLTYPE Next(ULONG wanted, VARIANT* values, ULONG* given) override {
     ULONG count = 0;

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "ScriptEngine.h"
 
+#include "Counted.h"
+
 #include <activscp.h>
 
 #include <algorithm>
@@ -54,7 +56,7 @@ Text ScriptError::message(TextView file) const {
 }
 
 /// What the engine knows of its host.
-class ScriptEngine::Site final : public IActiveScriptSite, public IActiveScriptSiteWindow {
+class ScriptEngine::Site final : public Counted<IActiveScriptSite, IActiveScriptSiteWindow> {
  public:
   void open(ScriptLanguage language) {
     check(CoCreateInstance(language == ScriptLanguage::VBScript ? vbScriptClass : jScriptClass, nullptr,
@@ -75,26 +77,12 @@ class ScriptEngine::Site final : public IActiveScriptSite, public IActiveScriptS
   }
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    if (id == IID_IUnknown || id == IID_IActiveScriptSite) {
-      *object = static_cast<IActiveScriptSite*>(this);
-    } else if (id == IID_IActiveScriptSiteWindow) {
-      *object = static_cast<IActiveScriptSiteWindow*>(this);
-    } else {
-      *object = nullptr;
-      return E_NOINTERFACE;
+    if (id == IID_IActiveScriptSiteWindow) {
+      return answer(static_cast<IActiveScriptSiteWindow*>(this), object);
     }
-    AddRef();
-    return S_OK;
+    const bool known = id == IID_IUnknown || id == IID_IActiveScriptSite;
+    return answer(known ? static_cast<IActiveScriptSite*>(this) : nullptr, object);
   }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) {
-      delete this;
-    }
-    return left;
-  }
-
   HRESULT STDMETHODCALLTYPE GetLCID(LCID* locale) override {
     // The same texts and numbers on every machine.
     *locale = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
@@ -148,10 +136,6 @@ class ScriptEngine::Site final : public IActiveScriptSite, public IActiveScriptS
   ComPtr<ActiveScriptParse> parser;
   std::map<Text, ComPtr<IDispatch>> objects;
   std::optional<ScriptError> lastError;
-
- private:
-  ~Site() = default;
-  ULONG references_ = 1;
 };
 
 ScriptEngine::ScriptEngine(ScriptLanguage language) : site_(new Site) {
