@@ -117,6 +117,8 @@ stage_windows() {
     stage_skip "Wine and the compilers for Windows cannot be installed: $(tail -n 1 "$log")"
     return
   fi
+  # Every run begins with a fresh copy of Wine's prefix.
+  rm -rf "${KOB_WINEPREFIX:-$root/build/wine}"
   build_preset windows64
   build_preset release kobresave
   run_ctest windows64
