@@ -137,9 +137,10 @@ std::optional<Value> DispatchObject::getIndexed(Property property, std::int32_t 
   if (SUCCEEDED(done)) {
     return fromVariant(*value, kindOf(property));
   }
-  // A plain member takes no index: what it holds does.
+  // A plain member takes no index: what it holds does. A script's member that holds an array even raises.
   Variant whole;
-  if (LateBound::isRaised(done) || FAILED(object_.read(*member, *whole))) {
+  const bool isOwnFailure = LateBound::isRaised(done) && !object_.isExtended();
+  if (isOwnFailure || FAILED(object_.read(*member, *whole))) {
     return std::nullopt;
   }
   const std::optional<Value> list = fromVariant(*whole, ValueKind::Object);
@@ -174,6 +175,10 @@ bool DispatchObject::setIndexed(Property property, std::int32_t index, const Val
 }
 
 std::optional<Value> DispatchObject::item(std::int32_t index) {
+  // A script's array raises an error when it is called, which its host would show.
+  if (object_.isExtended() && !memberOf(Property::Count) && length()) {
+    return element(index - 1);
+  }
   Variant value;
   const HRESULT done = object_.readAt(DISPID_VALUE, index, *value);
   if (SUCCEEDED(done)) {

@@ -39,6 +39,16 @@ std::string mustRead(const fs::path& path) {
   return std::move(*text);
 }
 
+/// The one kind of host that can show a case; "" when all can.
+std::string kindOf(const std::string& name) {
+  const std::string only = readFile(folderOf(name) / "only").value_or("");
+  const std::string kind = only.substr(0, only.find(':'));
+  if (!kind.empty() && kind != "scripted" && kind != "live") {
+    throw std::runtime_error(name + " is for no kind of host: " + only);
+  }
+  return kind;
+}
+
 /// One expectation: a file, and what stands for it when there is none.
 class Expectation {
  public:
@@ -86,23 +96,20 @@ CaseHost::~CaseHost() = default;
 
 CaseSubject::~CaseSubject() = default;
 
-std::vector<std::string> goldenCases() {
+std::vector<std::string> goldenCases(std::string_view hostKind) {
   std::vector<std::string> names;
   for (const fs::directory_entry& entry : fs::directory_iterator(KOB_GOLDEN_CASES)) {
-    if (entry.is_directory()) {
-      names.push_back(entry.path().filename().string());
+    if (!entry.is_directory()) {
+      continue;
+    }
+    std::string name = entry.path().filename().string();
+    const std::string kind = kindOf(name);
+    if (kind.empty() || kind == hostKind) {
+      names.push_back(std::move(name));
     }
   }
   std::sort(names.begin(), names.end());
   return names;
-}
-
-std::string reasonToSkip(const std::string& name, std::string_view hostKind) {
-  std::string only = readFile(folderOf(name) / "only").value_or("");
-  if (only.empty() || std::string_view(only).starts_with(hostKind)) {
-    return {};
-  }
-  return only;
 }
 
 std::string runGoldenCase(const std::string& name, const MakeSubject& makeSubject, bool update) {
@@ -130,10 +137,6 @@ std::string runGoldenCase(const std::string& name, const MakeHost& makeHost, boo
     return std::make_unique<HostSubject>(makeHost(formText), treeText);
   };
   return runGoldenCase(name, makeSubject, update);
-}
-
-std::string caseText(const std::string& name, const std::string& file) {
-  return readFile(folderOf(name) / file).value_or("");
 }
 
 bool takeUpdateFlag(int& count, char** arguments) {

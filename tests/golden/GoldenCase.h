@@ -51,20 +51,15 @@ using MakeSubject =
 /// Builds the form of a text; throws std::runtime_error for what this kind of host cannot have.
 using MakeHost = std::function<std::unique_ptr<CaseHost>(std::string_view formText)>;
 
-/// The names of all cases, in order.
-std::vector<std::string> goldenCases();
-
-/// Why a case does not run on a kind of host ("scripted", "live"); empty when it does.
-std::string reasonToSkip(const std::string& name, std::string_view hostKind);
+/// The names of the cases that a kind of host ("scripted", "live") can show, in order. Throws
+/// std::runtime_error when a case says that it is for another kind than these.
+std::vector<std::string> goldenCases(std::string_view hostKind);
 
 /// Runs a case and compares; the text of a test failure, empty when everything is as expected. Asked to
 /// update, it writes what it saw into the case's files instead.
 std::string runGoldenCase(const std::string& name, const MakeSubject& makeSubject, bool update);
 /// The same in this process, on a host of some kind.
 std::string runGoldenCase(const std::string& name, const MakeHost& makeHost, bool update);
-
-/// A file of a case as it stands, "" when the case has none of that name.
-std::string caseText(const std::string& name, const std::string& file);
 
 /// Whether the program was started with --update, which is taken from the arguments.
 bool takeUpdateFlag(int& count, char** arguments);

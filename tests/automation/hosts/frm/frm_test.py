@@ -28,7 +28,7 @@ from published import published  # noqa: E402
 CORPUS = ROOT.parent / "shared/corpus/frm"
 SAMPLE = 12  # of the corpus, every so many forms; those with tabs, toolbars and tags come on top
 STYLES = [("vbscript", "class"), ("vbscript", "enumerated"), ("jscript", "class"), ("vbscript", "array"),
-          ("jscript", "enumerated")]
+          ("jscript", "enumerated"), ("jscript", "array")]
 
 
 def quoted(text):
@@ -63,9 +63,7 @@ class Form:
         self.root, self.messages = expectation.harvest(live)
         self.captions = sum(len(cell.entries or []) for _, cell in all_cells(self.root))
         self.is_special = any(one.get("tabtitles") or one.get("buttons") or one.get("tag") for one in live.all)
-        has_tabs = any(one.get("tabtitles") for one in live.all)
-        styles = [style for style in STYLES if style[0] == "vbscript" or not has_tabs]
-        self.language, self.collections = styles[number % len(styles)]
+        self.language, self.collections = STYLES[number % len(STYLES)]
         self.texts = list(translations.texts(self.root)) if translations else []
         for path_of_cell, name, language, text in self.texts:
             cell = expectation.find(self.root, path_of_cell)

@@ -19,6 +19,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <stdexcept>
 
 namespace kob::hosts {
@@ -78,7 +79,7 @@ class Session {
     model_ = createFromFile(library, u"KOBModeleTraduction");
     engine_.add(u"Host", functions.object().get(), true);
     engine_.add(u"model", model_.get());
-    run(scriptOf(objects_, style_));
+    tabbed_ = makeForm(engine_, objects_, style_);
   }
 
   IDispatch* model() const { return model_.get(); }
@@ -145,6 +146,7 @@ class Session {
   const Job& job_;
   ScriptStyle style_;
   ScriptEngine engine_;
+  std::unique_ptr<ScriptEngine> tabbed_;
   std::vector<ScriptObject> objects_;
   ComPtr<IDispatch> model_;
 };

@@ -146,8 +146,10 @@ void CaseForm::link(const ObjectText& text, const ObjectText* above) {
   } else if (above != nullptr && !isKeyed(text)) {
     object.links["Container"] = variables_.at(above);
   }
-  for (const std::string& key : object.missing) {
-    object.links.erase(key);
+  // What a line says itself holds, whatever stands above or below it.
+  for (const testing::GivenText& given : text.given) {
+    object.links.erase(given.key);
+    object.collections.erase(given.key);
   }
 }
 
@@ -192,6 +194,7 @@ std::optional<Value> valueOf(const Variant& held) {
     case VT_R8:
       return held.get()->dblVal;
     case VT_EMPTY:
+    case VT_NULL:
     case VT_DISPATCH:
       return Value();
     default:

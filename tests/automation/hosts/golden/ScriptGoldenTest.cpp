@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <stdexcept>
 #include <thread>
 
@@ -52,7 +53,7 @@ class ScriptSubject final : public testing::CaseSubject {
                 .wstring();
     engine_.add(u"Host", functions_.object().get(), true);
     engine_.add(u"model", model_.get());
-    say(scriptOf(form_.objects(), style_));
+    tabbed_ = makeForm(engine_, form_.objects(), style_);
     if (!treeText.empty()) {
       growModel(model_.get(), treeText, file_);
     }
@@ -218,6 +219,7 @@ class ScriptSubject final : public testing::CaseSubject {
   BoxWatcher boxes_;
   TestFunctions functions_;
   mutable ScriptEngine engine_;
+  std::unique_ptr<ScriptEngine> tabbed_;
   ComPtr<IDispatch> model_;
   std::wstring file_;
   std::string notes_;
@@ -236,43 +238,15 @@ const std::vector<NamedStyle>& styles() {
       {"VBScriptEnumerated", {ScriptLanguage::VBScript, Collections::Enumerated, false}},
       {"VBScriptArrayRaising", {ScriptLanguage::VBScript, Collections::Array, true}},
       {"JScript", {ScriptLanguage::JScript, Collections::OwnClass, false}},
+      {"JScriptArray", {ScriptLanguage::JScript, Collections::Array, false}},
   };
   return all;
-}
-
-/// The cases that JScript cannot say. All of them have a tabbed control, whose caption runs code.
-const std::vector<std::string>& casesBeyondJScript() {
-  static const std::vector<std::string> names{
-      "apply-and-back",
-      "apply-tabs",
-      "apply-tabs-with-context",
-      "apply-test-language",
-      "harvest-flags-stay-set",
-      "harvest-tabs",
-      "harvest-tabs-known-cell-new-context",
-      "harvest-tabs-known-context",
-      "harvest-tabs-with-context",
-      "harvest-tabs-with-context-twice",
-      "harvest-twice",
-  };
-  return names;
-}
-
-std::string reasonToSkip(const std::string& name, const NamedStyle& style) {
-  const auto& beyond = casesBeyondJScript();
-  const bool cannotSay = style.style.language == ScriptLanguage::JScript &&
-                         std::find(beyond.begin(), beyond.end(), name) != beyond.end();
-  return cannotSay ? "a tabbed control's caption runs code, which no property of JScript does"
-                   : testing::reasonToSkip(name, "scripted");
 }
 
 class ScriptGoldenTest : public ::testing::TestWithParam<std::tuple<std::string, NamedStyle>> {};
 
 TEST_P(ScriptGoldenTest, Case) {
   const auto& [name, style] = GetParam();
-  if (const std::string reason = reasonToSkip(name, style); !reason.empty()) {
-    GTEST_SKIP() << reason;
-  }
   std::string failure;
   // A thread of its own: the language count never shrinks.
   std::thread([&failure, &caseName = name, &named = style] {
@@ -293,25 +267,13 @@ TEST_P(ScriptGoldenTest, Case) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Golden, ScriptGoldenTest,
-                         ::testing::Combine(::testing::ValuesIn(testing::goldenCases()),
+                         ::testing::Combine(::testing::ValuesIn(testing::goldenCases("scripted")),
                                             ::testing::ValuesIn(styles())),
                          [](const auto& param) {
                            std::string name = std::get<0>(param.param);
                            std::replace(name.begin(), name.end(), '-', '_');
                            return name + "_" + std::get<1>(param.param).name;
                          });
-
-TEST(ScriptGoldenCases, OnlyCasesWithTabsAreBeyondJScript) {
-  std::vector<std::string> withTabs;
-  for (const std::string& name : testing::goldenCases()) {
-    const CaseForm form(testing::caseText(name, "form"));
-    if (std::any_of(form.objects().begin(), form.objects().end(),
-                    [](const ScriptObject& one) { return one.tabs.has_value(); })) {
-      withTabs.push_back(name);
-    }
-  }
-  EXPECT_EQ(withTabs, casesBeyondJScript());
-}
 
 }  // namespace
 }  // namespace kob::hosts

@@ -4,10 +4,10 @@
 #include <tests/doubles/Lines.h>
 #include <tests/doubles/Utf8.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <set>
-#include <stdexcept>
 
 namespace kob::hosts {
 
@@ -58,6 +58,16 @@ class VbWriter {
     }
     for (const ScriptObject& object : objects) {
       tie(object);
+    }
+    return classes_ + statements_;
+  }
+
+  /// Those with tabs alone, not tied to anything yet.
+  Text writeTabbed(const std::vector<ScriptObject>& objects) {
+    for (const ScriptObject& object : objects) {
+      if (object.tabs) {
+        make(object);
+      }
     }
     return classes_ + statements_;
   }
@@ -184,17 +194,35 @@ class VbWriter {
   Text statements_;
 };
 
+/// How JScript makes a collection of the items of an array.
+const char16_t* jsList(ScriptStyle::Collections collections) {
+  switch (collections) {
+    case ScriptStyle::Collections::Enumerated:
+      return u"  var all = NewList(), i;\n  for (i = 0; i < items.length; i++) all.Add(items[i]);\n  return "
+             u"all;\n";
+    case ScriptStyle::Collections::Array:
+      return u"  return items;\n";
+    case ScriptStyle::Collections::OwnClass:
+      break;
+  }
+  return u"  var all = function (i) { return items[i - 1]; };\n"
+         u"  all.Count = items.length;\n  all.Item = all;\n  return all;\n";
+}
+
+/// Under which name a script is handed what it is to have in a variable.
+Text handed(const ScriptObject& object) {
+  return u"made_" + fromUtf8(object.variable);
+}
+
 Text jScript(const std::vector<ScriptObject>& objects, const ScriptStyle& style) {
-  Text text = style.collections == ScriptStyle::Collections::Enumerated
-                  ? u"function list(items) {\n  var all = NewList(), i;\n"
-                    u"  for (i = 0; i < items.length; i++) all.Add(items[i]);\n  return all;\n}\n"
-                  : u"function list(items) {\n  var all = function (i) { return items[i - 1]; };\n"
-                    u"  all.Count = items.length;\n  all.Item = all;\n  return all;\n}\n";
+  Text text = Text(u"function list(items) {\n") + jsList(style.collections) + u"}\n";
   for (const ScriptObject& object : objects) {
+    text += u"var " + fromUtf8(object.variable) + u" = ";
     if (object.tabs) {
-      throw std::runtime_error("JScript has no tabbed controls");
+      text += handed(object) + u";\n";
+      continue;
     }
-    text += u"var " + fromUtf8(object.variable) + u" = {";
+    text += u"{";
     const char16_t* separator = u"";
     for (const auto& [key, value] : object.fields) {
       text += separator + fromUtf8(key) + u": " + literalOf(value, ScriptLanguage::JScript);
@@ -218,6 +246,12 @@ Text jScript(const std::vector<ScriptObject>& objects, const ScriptStyle& style)
   return text;
 }
 
+void runForm(ScriptEngine& engine, TextView script) {
+  if (const std::optional<ScriptError> error = engine.run(script)) {
+    throw ComError{error->number, error->number, error->message(u"form")};
+  }
+}
+
 }  // namespace
 
 Text literalOf(const Value& value, ScriptLanguage language) {
@@ -231,9 +265,24 @@ Text literalOf(const Value& value, ScriptLanguage language) {
   return fromUtf8(testing::valueText(value));
 }
 
-Text scriptOf(const std::vector<ScriptObject>& objects, const ScriptStyle& style) {
-  return style.language == ScriptLanguage::VBScript ? VbWriter(style).write(objects)
-                                                    : jScript(objects, style);
+std::unique_ptr<ScriptEngine> makeForm(ScriptEngine& engine, const std::vector<ScriptObject>& objects,
+                                       const ScriptStyle& style) {
+  if (style.language == ScriptLanguage::VBScript) {
+    runForm(engine, VbWriter(style).write(objects));
+    return nullptr;
+  }
+  std::unique_ptr<ScriptEngine> tabbed;
+  if (std::any_of(objects.begin(), objects.end(), [](const auto& one) { return one.tabs.has_value(); })) {
+    tabbed = std::make_unique<ScriptEngine>(ScriptLanguage::VBScript);
+    runForm(*tabbed, VbWriter(style).writeTabbed(objects));
+  }
+  for (const ScriptObject& object : objects) {
+    if (object.tabs) {
+      engine.add(handed(object), tabbed->variable(fromUtf8(object.variable)).object().get());
+    }
+  }
+  runForm(engine, jScript(objects, style));
+  return tabbed;
 }
 
 }  // namespace kob::hosts

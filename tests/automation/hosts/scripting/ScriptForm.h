@@ -7,6 +7,7 @@
 #include <kobtraduction/engine/Value.h>
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -38,14 +39,18 @@ struct ScriptStyle {
   enum class Collections {
     OwnClass,    ///< Count and a default Item(i), without an enumerator
     Enumerated,  ///< the application's: Count, Item and an enumerator
-    Array,       ///< Controls is an array (VBScript); the other collections are of an own class
+    Array,       ///< arrays of JScript; in VBScript only Controls, for what the others have it cannot index
   } collections = Collections::OwnClass;
   bool raises = false;  ///< a missing property is there, and raises an error (VBScript)
 };
 
-/// The statements that make the objects and tie them together. JScript cannot say a tabbed control: its
-/// objects have no properties that run code.
-Text scriptOf(const std::vector<ScriptObject>& objects, const ScriptStyle& style);
+/// Runs the statements that make the objects and tie them together. An object of JScript has no property that
+/// is assigned with an index, nor, in the version of the language that every engine knows, one that runs
+/// code: the tabbed controls of its forms are objects of VBScript, as those of an application are the
+/// application's. Their engine is what is returned, to be kept as long as the form; none where there are
+/// none. Throws ComError.
+std::unique_ptr<ScriptEngine> makeForm(ScriptEngine& engine, const std::vector<ScriptObject>& objects,
+                                       const ScriptStyle& style);
 
 /// A value as the language writes it.
 Text literalOf(const Value& value, ScriptLanguage language);
