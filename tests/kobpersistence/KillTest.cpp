@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 // Programs that are killed while they save.
-#include "ServiceTest.h"
+#include "SavedModel.h"
 
 #include <gmock/gmock.h>
 
@@ -20,13 +20,6 @@ using ::testing::ElementsAre;
 using KillTest = ServiceTest;
 
 constexpr int kills = 60;
-constexpr int messages = 1'500;
-
-void fill(KOBModeleTraduction& model, TextView text) {
-  for (int i = 0; i < messages; ++i) {
-    message(model.Racine(), decimal(i), {text, u"and another text", u"", u"", u"", u""});
-  }
-}
 
 /// A child that saves two models in turn until it is killed.
 pid_t startSaving(const Text& file) {

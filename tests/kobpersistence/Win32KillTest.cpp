@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 // Programs that are killed while they save: this one once more, started as "save FILE EVENT".
-#include "ServiceTest.h"
+#include "SavedModel.h"
 
 #include <gmock/gmock.h>
 
@@ -17,14 +17,7 @@ using ::testing::ElementsAre;
 using KillTest = ServiceTest;
 
 constexpr int kills = 25;
-constexpr int messages = 1'500;
 constexpr DWORD patience = 60'000;
-
-void fill(KOBModeleTraduction& model, TextView text) {
-  for (int i = 0; i < messages; ++i) {
-    message(model.Racine(), decimal(i), {text, u"and another text", u"", u"", u"", u""});
-  }
-}
 
 std::wstring wide(TextView text) {
   return {text.begin(), text.end()};
