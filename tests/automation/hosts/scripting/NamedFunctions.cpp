@@ -108,7 +108,7 @@ class ItemEnumerator final : public Counted<IEnumVARIANT> {
     return count == wanted ? S_OK : S_FALSE;
   }
   HRESULT STDMETHODCALLTYPE Skip(ULONG count) override {
-    next_ = std::min(next_ + count, items_->size());
+    next_ = std::min<std::size_t>(next_ + count, items_->size());
     return S_OK;
   }
   HRESULT STDMETHODCALLTYPE Reset() override {
