@@ -11,7 +11,7 @@ namespace kob::persistence {
 
 namespace {
 
-constexpr std::size_t bufferSize = 64 * 1024;
+constexpr std::size_t bufferSize = 256 * 1024;
 static_assert(bufferSize % Checksum::blockSize == 0);
 
 }  // namespace

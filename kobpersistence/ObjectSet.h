@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #pragma once
 
-#include <kobtraduction/persistence/PersistStream.h>
-
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -10,34 +8,32 @@
 
 namespace kob::persistence {
 
-/// Finds out whether an object was met before, a few objects later: in between, its place in the table is on
-/// its way from memory. The objects are kept alive, so that none is taken for another one that had its
-/// address before.
+/// A set of addresses that were met. Objects that were made one after the other lie side by side, so a page
+/// of addresses has one place in the table, with a bit for each address: the place is nearly always at hand.
 class ObjectSet {
  public:
   ObjectSet();
 
-  /// Numbers the objects from 0 in the order of the calls, also one that was met before.
-  std::uint32_t add(const PersistRef& object);
-  IKOBVBPersistStream& object(std::uint32_t index) const noexcept { return *objects_[index]; }
-
-  /// Whether each object was added once; says so for the latest ones after flush() only.
-  bool isEachNew() const noexcept { return isEachNew_; }
-  void flush();
+  /// Whether the object was not met before. Now and then an object that was not is taken for one that was:
+  /// one that lies within the same 16 bytes, or at the address of one that is gone.
+  bool add(const void* object);
 
  private:
-  using Address = const IKOBVBPersistStream*;
+  struct Page {
+    /// 0: a free place.
+    std::uintptr_t number = 0;
+    std::array<std::uint64_t, 4> met = {};
+  };
 
-  std::size_t home(Address object) const noexcept;
-  void insert(Address object) noexcept;
+  /// The page's place, free when it has none yet.
+  std::size_t find(std::uintptr_t number) const noexcept;
   void grow();
 
-  std::vector<PersistRef> objects_;
-  /// Open addressing; a power of two of places.
-  std::vector<Address> places_;
-  std::array<Address, 16> waiting_ = {};
-  std::size_t waitingCount_ = 0;
-  bool isEachNew_ = true;
+  /// Open addressing, at most half full; a power of two of places.
+  std::vector<Page> pages_;
+  std::size_t used_ = 0;
+  /// The place that was used last.
+  std::size_t last_ = 0;
 };
 
 }  // namespace kob::persistence

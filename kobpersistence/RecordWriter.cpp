@@ -14,7 +14,7 @@ namespace {
 /// Before the values: length, class and version, which are known when the values are.
 constexpr std::size_t mostHead = longestVarint + 1 + longestVarint;
 constexpr std::int32_t longestText = std::numeric_limits<std::int32_t>::max();
-/// The longest value that is not a text.
+/// The longest value, without the units of a text.
 constexpr std::size_t longestValue = 1 + sizeof(double);
 
 Byte* storeTag(Byte* to, Tag tag) noexcept {
@@ -72,15 +72,21 @@ void RecordWriter::endRecord(Byte classNumber) {
 }
 
 void RecordWriter::WriteValue(const PersistValue& value) {
-  // The two kinds of value that a record is full of.
+  // What records are full of takes the short way, which cannot fail.
   if (value.type() == PersistType::String) {
     const TextView text = value.text();
-    if (static_cast<std::size_t>(limit_ - to_) / 2 > text.size() + longestVarint) {
-      writeText(text);
+    constexpr std::size_t longest = 0x7F;
+    // The tag, the length and the units are a byte each.
+    if (text.size() - 1 < longest && static_cast<std::size_t>(limit_ - to_) > 2 + longest &&
+        narrow(to_ + 2, text.data(), text.size())) {
+      to_[0] = static_cast<Byte>(Tag::NarrowText);
+      to_[1] = static_cast<Byte>(text.size());
+      units_ += text.size();
       ones_ = nullptr;
+      endText(to_ + 2 + text.size());
       return;
     }
-  } else if (value.type() == PersistType::SmallInteger && value.integer() == 1 && ones_ != nullptr &&
+  } else if (ones_ != nullptr && value.type() == PersistType::SmallInteger && value.integer() == 1 &&
              *ones_ < mostOnes) {
     ++*ones_;
     return;
@@ -99,21 +105,17 @@ void RecordWriter::writeGuarded(const PersistValue& value) {
 }
 
 void RecordWriter::writeAny(const PersistValue& value) {
-  Byte* nextOnes = nullptr;
   reserve(longestValue);
+  ones_ = nullptr;
   switch (value.type()) {
     case PersistType::String:
-      if (value.text().size() > std::size_t(longestText)) {
-        throw failure({u"A text is longer than ", decimal(longestText), u" characters. Shorten it."});
-      }
-      reserve(1 + longestVarint + 2 * value.text().size());
       writeText(value.text());
       break;
     case PersistType::SmallInteger:
       if (value.integer() == 1) {
-        to_ = storeTag(to_, Tag::Ones);
-        nextOnes = to_;
-        *to_++ = 1;
+        ones_ = storeTag(to_, Tag::Ones);
+        *ones_ = 1;
+        to_ = ones_ + 1;
       } else {
         to_ = storeVarint(storeTag(to_, Tag::SmallInteger), zigzag(value.integer()));
       }
@@ -133,33 +135,49 @@ void RecordWriter::writeAny(const PersistValue& value) {
       writeObject(value.object());
       break;
   }
-  ones_ = nextOnes;
 }
 
-void RecordWriter::writeText(TextView text) noexcept {
+void RecordWriter::writeText(TextView text) {
+  if (text.size() > std::size_t(longestText)) {
+    throw failure({u"A text is longer than ", decimal(longestText), u" characters. Shorten it."});
+  }
   if (text.empty()) {
     to_ = storeTag(to_, Tag::EmptyText);
     lastTextSize_ = 0;
     return;
   }
-  Byte* const tag = to_;
-  Byte* const units = storeVarint(tag + 1, static_cast<std::uint32_t>(text.size()));
+  reserve(longestValue + 2 * text.size());
+  Byte* const units = storeVarint(to_ + 1, static_cast<std::uint32_t>(text.size()));
   if (narrow(units, text.data(), text.size())) {
-    *tag = static_cast<Byte>(Tag::NarrowText);
-    to_ = units + text.size();
+    *to_ = static_cast<Byte>(Tag::NarrowText);
+    endText(units + text.size());
   } else {
-    *tag = static_cast<Byte>(Tag::WideText);
+    *to_ = static_cast<Byte>(Tag::WideText);
     storeUnits(units, text.data(), text.size());
-    to_ = units + 2 * text.size();
+    endText(units + 2 * text.size());
   }
   units_ += text.size();
-  const auto size = static_cast<std::size_t>(to_ - tag);
-  if (size == lastTextSize_ && std::memcmp(tag, buffer_.get() + lastText_, size) == 0) {
-    to_ = storeTag(tag, Tag::SameText);
+}
+
+inline void RecordWriter::endText(Byte* end) noexcept {
+  const auto size = static_cast<std::size_t>(end - to_);
+  // Texts of one length mostly differ in their last unit, too.
+  if (size == lastTextSize_ && end[-1] == buffer_[lastText_ + size - 1]) {
+    endAlike(end);
+    return;
+  }
+  lastText_ = static_cast<std::size_t>(to_ - buffer_.get());
+  lastTextSize_ = size;
+  to_ = end;
+}
+
+void RecordWriter::endAlike(Byte* end) noexcept {
+  if (std::equal(to_, end, buffer_.get() + lastText_)) {
+    to_ = storeTag(to_, Tag::SameText);
     lastTextSize_ = 0;
   } else {
-    lastText_ = static_cast<std::size_t>(tag - buffer_.get());
-    lastTextSize_ = size;
+    lastText_ = static_cast<std::size_t>(to_ - buffer_.get());
+    to_ = end;
   }
 }
 

@@ -56,8 +56,11 @@ class RecordWriter final : public PersistStream {
   /// What goes wrong is kept for write().
   void writeGuarded(const PersistValue& value);
   void writeAny(const PersistValue& value);
-  /// There is room for it already.
-  void writeText(TextView text) noexcept;
+  void writeText(TextView text);
+  /// The text at to_ ends here, unless it is the one before it once more.
+  void endText(Byte* end) noexcept;
+  /// The same for a text that might be.
+  void endAlike(Byte* end) noexcept;
   void writeObject(const PersistRef& object);
   void endRecord(Byte classNumber);
 

@@ -7,8 +7,10 @@
 #include <kobpersistence/Saving.h>
 #include <kobpersistence/SharedOrder.h>
 
+#include <algorithm>
 #include <limits>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace kob::persistence {
@@ -75,41 +77,35 @@ PersistRef borrowed(IKOBVBPersistStream& object) {
 /// Writes a tree in one go, each object directly before the first that it names.
 class TreeSave final : private NamedObjects {
  public:
-  /// Whether it is a tree; if not, nothing of use has been written.
+  /// Whether it is a tree; if not, nothing of use has been written. A tree may, rarely, be taken for none.
   bool save(ContainerWriter& file, ClassNumbers& classes, IKOBVBPersistStream& first) {
     RecordWriter writer(*this);
-    pending_.push_back({objects_.add(borrowed(first)), 1});
-    while (!pending_.empty() && objects_.isEachNew()) {
-      const Pending now = pending_.back();
+    name(borrowed(first));
+    while (!pending_.empty() && isEachNew_) {
+      const Pending now = std::move(pending_.back());
       pending_.pop_back();
       if (now.level > deepestNesting) {
-        // Or it is a cycle that was not noticed yet.
-        objects_.flush();
-        if (!objects_.isEachNew()) {
-          return false;
-        }
         throw tooDeep();
       }
-      IKOBVBPersistStream& object = objects_.object(now.index);
-      named_.clear();
-      writer.write(object, classes.of(object));
+      level_ = now.level;
+      const auto above = static_cast<std::ptrdiff_t>(pending_.size());
+      writer.write(*now.object, classes.of(*now.object));
       file.addRecord(writer.record(), writer.recordSize(), writer.units());
-      for (auto named = named_.rbegin(); named != named_.rend(); ++named) {
-        pending_.push_back({*named, now.level + 1});
-      }
+      // The first named is the next.
+      std::reverse(pending_.begin() + above, pending_.end());
     }
-    objects_.flush();
-    return objects_.isEachNew();
+    return isEachNew_;
   }
 
  private:
   struct Pending {
-    std::uint32_t index;
+    PersistRef object;
     std::uint32_t level;
   };
 
   ObjectForm name(const PersistRef& object) override {
-    named_.push_back(objects_.add(object));
+    isEachNew_ = met_.add(object.get()) && isEachNew_;
+    pending_.push_back({object, level_ + 1});
     // Its turn comes soon.
     const char* const start = reinterpret_cast<const char*>(object.get());
     for (std::size_t line = 0; line < fetchedSize; line += cacheLine) {
@@ -118,9 +114,12 @@ class TreeSave final : private NamedObjects {
     return {};
   }
 
-  ObjectSet objects_;
+  ObjectSet met_;
+  bool isEachNew_ = true;
+  /// Named and not written yet, the next one on top.
   std::vector<Pending> pending_;
-  std::vector<std::uint32_t> named_;
+  /// Of the object whose record is being written.
+  std::uint32_t level_ = 0;
 };
 
 /// Writes objects some of which are named more than once: all are met first, and then written in order.

@@ -15,6 +15,7 @@ namespace kob::persistence {
 using NarrowBlock = Byte __attribute__((vector_size(8)));
 using DoubleBlock = Byte __attribute__((vector_size(16)));
 using WideBlock = std::uint16_t __attribute__((vector_size(16)));
+using DoubleWideBlock = std::uint16_t __attribute__((vector_size(32)));
 
 /// Bytes to units of the same number. Moves blocks and may touch up to fifteen beyond the last one, on both
 /// sides (see slack).
@@ -39,15 +40,24 @@ inline void widen(char16_t* to, const Byte* from, std::size_t count) noexcept {
 /// Units that do not fit into a byte leave a bit of these.
 inline constexpr std::uint64_t upperBytes = 0xFF00'FF00'FF00'FF00;
 
-/// Eight units / four units; what they have in their upper bytes is returned, or-ed together.
-inline std::uint64_t narrowEight(Byte* to, const char16_t* from) noexcept {
+/// Sixteen units / eight units / four units; what they have in their upper bytes is returned, or-ed together.
+inline WideBlock narrowSixteen(Byte* to, const char16_t* from) noexcept {
+  DoubleWideBlock wide;
+  std::memcpy(&wide, from, sizeof wide);
+  const auto block = __builtin_convertvector(wide, DoubleBlock);
+  std::memcpy(to, &block, sizeof block);
+  WideBlock low;
+  WideBlock high;
+  std::memcpy(&low, from, sizeof low);
+  std::memcpy(&high, from + 8, sizeof high);
+  return low | high;
+}
+inline WideBlock narrowEight(Byte* to, const char16_t* from) noexcept {
   WideBlock wide;
   std::memcpy(&wide, from, sizeof wide);
-  const NarrowBlock block = __builtin_convertvector(wide, NarrowBlock);
+  const auto block = __builtin_convertvector(wide, NarrowBlock);
   std::memcpy(to, &block, sizeof block);
-  std::uint64_t halves[2];
-  std::memcpy(halves, from, sizeof halves);
-  return halves[0] | halves[1];
+  return wide;
 }
 inline std::uint64_t narrowFour(Byte* to, const char16_t* from) noexcept {
   std::uint64_t units = 0;
@@ -61,16 +71,28 @@ inline std::uint64_t narrowFour(Byte* to, const char16_t* from) noexcept {
   return units;
 }
 
+/// Whether all units fit into a byte, of which `seen` is what was or-ed together.
+inline bool isNarrow(WideBlock seen) noexcept {
+  std::uint64_t halves[2];
+  std::memcpy(halves, &seen, sizeof halves);
+  return ((halves[0] | halves[1]) & upperBytes) == 0;
+}
+
 /// Units to bytes of the same number; false, with nothing of use written, when one does not fit into a byte.
 /// Neither reads nor writes beyond the last one: the last block ends where the text ends.
-inline bool narrow(Byte* to, const char16_t* from, std::size_t count) noexcept {
-  std::uint64_t seen = 0;
-  if (count >= 8) {
-    for (std::size_t i = 0; i + 8 < count; i += 8) {
-      seen |= narrowEight(to + i, from + i);
+[[gnu::always_inline]] inline bool narrow(Byte* to, const char16_t* from, std::size_t count) noexcept {
+  if (count >= 16) {
+    WideBlock seen = {};
+    for (std::size_t i = 0; i + 16 < count; i += 16) {
+      seen |= narrowSixteen(to + i, from + i);
     }
-    seen |= narrowEight(to + count - 8, from + count - 8);
-  } else if (count >= 4 && std::endian::native == std::endian::little) {
+    return isNarrow(seen | narrowSixteen(to + count - 16, from + count - 16));
+  }
+  if (count >= 8) {
+    return isNarrow(narrowEight(to, from) | narrowEight(to + count - 8, from + count - 8));
+  }
+  std::uint64_t seen = 0;
+  if (count >= 4 && std::endian::native == std::endian::little) {
     seen = narrowFour(to, from) | narrowFour(to + count - 4, from + count - 4);
   } else {
     for (std::size_t i = 0; i < count; ++i) {

@@ -5,20 +5,29 @@
 
 namespace kob {
 
-/// Tells the processor that this object is read soon; a large model does not fit into its caches. Any address
-/// will do, null too. Internal.
-template <class Object>
-void fetch(const Object* object) noexcept {
+/// Tells the processor that so many bytes are read soon; a large model does not fit into its caches. Any
+/// address will do, null too. Internal.
+inline void fetchBytes(const void* address, std::size_t size) noexcept {
 #if defined(__GNUC__)
+  if (address == nullptr) {
+    return;
+  }
   constexpr std::size_t cacheLine = 64;
-  const auto* const bytes = reinterpret_cast<const char*>(object);
-  for (std::size_t offset = 0; offset < sizeof(Object); offset += cacheLine) {
+  const auto* const bytes = static_cast<const char*>(address);
+  for (std::size_t offset = 0; offset < size; offset += cacheLine) {
     __builtin_prefetch(bytes + offset);
   }
-  __builtin_prefetch(bytes + sizeof(Object) - 1);
+  __builtin_prefetch(bytes + size - 1);
 #else
-  static_cast<void>(object);
+  static_cast<void>(address);
+  static_cast<void>(size);
 #endif
+}
+
+/// The same for an object.
+template <class Object>
+void fetch(const Object* object) noexcept {
+  fetchBytes(object, sizeof(Object));
 }
 
 }  // namespace kob

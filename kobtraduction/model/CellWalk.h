@@ -2,7 +2,7 @@
 #pragma once
 
 #include <kobtraduction/base/Failure.h>
-#include <kobtraduction/base/Fetch.h>
+#include <kobtraduction/model/FetchCells.h>
 #include <kobtraduction/model/KOBCellTraduction.h>
 
 #include <cstddef>
@@ -70,7 +70,8 @@ class CellWalk {
       return nullptr;
     }
     if (open_.back().fetched == 0) {
-      fetchChildren(open_.back());
+      // Of the texts, most walks read the reference text and nothing else.
+      open_.back().fetched = fetchCells(open_.back().next, *open_.back().children, sizeof(char16_t));
     }
     --open_.back().fetched;
     KOBCellTraduction* const cell = (*open_.back().next).get();
@@ -79,35 +80,6 @@ class CellWalk {
       throw Failure(FailureKind::ObjectNotSet);
     }
     return cell;
-  }
-
-  /// What a walk reads of a child it finds only through what it has read before. So the next children are
-  /// fetched together, one step of the way for all of them after the other, and the waiting is shared.
-  static void fetchChildren(Level& level) {
-    constexpr int together = 16;
-    KOBCellTraduction* cells[together];
-    int count = 0;
-    for (auto next = level.next; count < together && next != level.children->end(); ++next) {
-      cells[count] = (*next).get();
-      fetch(cells[count++]);
-    }
-    level.fetched = count;
-    const std::shared_ptr<KOBTraductionObj>* firstEntries[together];
-    for (int i = 0; i < count; ++i) {
-      const EntryList* const list = cells[i] != nullptr ? cells[i]->entries() : nullptr;
-      firstEntries[i] = list != nullptr && list->Count() > 0 ? &*list->begin() : nullptr;
-      fetch(firstEntries[i]);
-    }
-    for (int i = 0; i < count; ++i) {
-      if (firstEntries[i] != nullptr) {
-        fetch(firstEntries[i]->get());
-      }
-    }
-    for (int i = 0; i < count; ++i) {
-      if (firstEntries[i] != nullptr && *firstEntries[i] != nullptr) {
-        fetch((*firstEntries[i])->textUnits());
-      }
-    }
   }
 
   void leave() noexcept {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include <kobtraduction/base/Failure.h>
 #include <kobtraduction/component/Global_Util.h>
+#include <kobtraduction/model/FetchCells.h>
 #include <kobtraduction/model/KOBModeleTraduction.h>
 #include <kobtraduction/model/PathMemo.h>
 #include <kobtraduction/persistence/PersistStream.h>
@@ -25,6 +26,8 @@ constexpr std::int32_t cellVersion = 2;
 
 /// A caption and a tool tip. The count that a record tells is not trusted before its entries are there.
 constexpr std::int32_t usualEntries = 2;
+/// What the texts of an entry need, in bytes.
+constexpr std::size_t usualTexts = 320;
 
 /// A record stops where it fails, and says so to nobody but the flag of the thread.
 template <class Steps>
@@ -145,8 +148,12 @@ void KOBCellTraduction::write(PersistStream& stream) {
     if (TypeCell() == 1) {
       const CellList& cells = mustBeSet(ColCell());
       stream.WriteValue(PersistValue::ofLong(cells.Count()));
-      for (const auto& cell : cells) {
-        stream.WriteValue(PersistValue::object(cell));
+      int fetched = 0;
+      for (auto next = cells.begin(); next != cells.end(); ++next) {
+        // Their turn comes soon.
+        fetched = fetched > 0 ? fetched : fetchCells(next, cells, usualTexts);
+        --fetched;
+        stream.WriteValue(PersistValue::object(*next));
       }
     }
     stream.WriteValue(PersistValue::ofLong(TypeFeuille()));
@@ -168,7 +175,14 @@ void KOBCellTraduction::writeControl(PersistStream& stream) const {
     stream.WriteValue(PersistValue::object(entry));
   }
   const PersistValue one = PersistValue::smallInteger(1);
-  for (std::int32_t language = 1, last = Global_Util::NbLangues(); language <= last; ++language) {
+  const std::int32_t last = Global_Util::NbLangues();
+  // Factors that nobody made are all 1.
+  const std::int32_t ones = std::min(untouched_, last);
+  for (std::int32_t language = 1; language <= ones; ++language) {
+    stream.WriteValue(one);
+    stream.WriteValue(one);
+  }
+  for (std::int32_t language = std::max(ones, 0) + 1; language <= last; ++language) {
     // Width before left, the other way round than everywhere else: files have always been written so.
     writeFactor(stream, widthFactor(language), one);
     writeFactor(stream, leftFactor(language), one);
@@ -245,11 +259,14 @@ std::shared_ptr<ProgIdTable> KOBTraductionObj::getProgIdTable() {
 void KOBTraductionObj::write(PersistStream& stream) {
   guarded([&] {
     stream.setVersion(entryVersion);
-    stream.WriteValue(PersistValue::string(nom()));
+    PersistValue value = PersistValue::string(nom());
+    stream.WriteValue(value);
+    const TextList* const list = colTraduction_.get();
     for (std::int32_t language = 1, last = Global_Util::NbLangues(); language <= last; ++language) {
       // Padded to the language count, and never cut short of it; what lies beyond is dropped.
-      const TextList& list = texts();
-      stream.WriteValue(PersistValue::string(language <= list.Count() ? list.Item(language) : TextView()));
+      const TextList& texts = mustBeSet(list);
+      value.becomeString(language <= texts.Count() ? texts.Item(language) : TextView());
+      stream.WriteValue(value);
     }
   });
 }
