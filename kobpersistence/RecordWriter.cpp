@@ -14,6 +14,14 @@ namespace {
 /// Before the values: length, class and version, which are known when the values are.
 constexpr std::size_t mostHead = longestVarint + 1 + longestVarint;
 constexpr std::int32_t longestText = std::numeric_limits<std::int32_t>::max();
+/// Texts up to this length have the short form; the length then is one byte.
+constexpr std::size_t longestShort = 0x7F;
+/// Units of several texts that are narrowed at once.
+constexpr std::size_t longestRun = 512;
+/// A text is copied in blocks of so many bytes; all of them together are no longer than this.
+constexpr std::size_t block = 32;
+constexpr std::size_t longestBlocks = longestShort + 1;
+static_assert(longestBlocks % block == 0);
 /// The longest value, without the units of a text.
 constexpr std::size_t longestValue = 1 + sizeof(double);
 
@@ -74,16 +82,7 @@ void RecordWriter::endRecord(Byte classNumber) {
 void RecordWriter::WriteValue(const PersistValue& value) {
   // What records are full of takes the short way, which cannot fail.
   if (value.type() == PersistType::String) {
-    const TextView text = value.text();
-    constexpr std::size_t longest = 0x7F;
-    // The tag, the length and the units are a byte each.
-    if (text.size() - 1 < longest && static_cast<std::size_t>(limit_ - to_) > 2 + longest &&
-        narrow(to_ + 2, text.data(), text.size())) {
-      to_[0] = static_cast<Byte>(Tag::NarrowText);
-      to_[1] = static_cast<Byte>(text.size());
-      units_ += text.size();
-      ones_ = nullptr;
-      endText(to_ + 2 + text.size());
+    if (writeShort(value.text())) {
       return;
     }
   } else if (ones_ != nullptr && value.type() == PersistType::SmallInteger && value.integer() == 1 &&
@@ -92,6 +91,115 @@ void RecordWriter::WriteValue(const PersistValue& value) {
     return;
   }
   writeGuarded(value);
+}
+
+void RecordWriter::WriteStrings(std::span<const TextView> texts) {
+  while (!texts.empty()) {
+    std::size_t written = writeRun(texts);
+    if (written == 0) {
+      if (!writeShort(texts.front())) {
+        WriteValue(PersistValue::string(texts.front()));
+      }
+      written = 1;
+    }
+    texts = texts.subspan(written);
+  }
+}
+
+std::size_t RecordWriter::writeRun(std::span<const TextView> texts) noexcept {
+  // The run ends at a text that lies elsewhere; an empty one lies anywhere.
+  const char16_t* begin = nullptr;
+  std::size_t units = 0;
+  std::size_t count = 0;
+  for (; count < texts.size(); ++count) {
+    const TextView text = texts[count];
+    if (text.empty()) {
+      continue;
+    }
+    begin = units == 0 ? text.data() : begin;
+    if (text.size() > longestShort || units + text.size() > longestRun || text.data() != begin + units) {
+      break;
+    }
+    units += text.size();
+  }
+  if (count < 2) {
+    return 0;
+  }
+  // All units are narrowed together, and from there come the texts, in blocks that go beyond their ends.
+  Byte run[longestRun + longestBlocks];
+  if (!hasRoom(units + 2 * count + longestBlocks) || !narrow(run, begin, units)) {
+    return 0;
+  }
+  const Byte* from = run;
+  Byte* to = to_;
+  for (const TextView text : texts.first(count)) {
+    const std::size_t size = text.size();
+    if (size == 0) {
+      to = storeTag(to, Tag::EmptyText);
+      lastTextSize_ = 0;
+      continue;
+    }
+    to[0] = static_cast<Byte>(Tag::NarrowText);
+    to[1] = static_cast<Byte>(size);
+    std::memcpy(to + 2, from, block);
+    for (std::size_t i = block; i < size; i += block) {
+      std::memcpy(to + 2 + i, from + i, block);
+    }
+    from += size;
+    to = endText(to, to + 2 + size);
+  }
+  to_ = to;
+  units_ += units;
+  ones_ = nullptr;
+  return count;
+}
+
+bool RecordWriter::writeShort(TextView text) noexcept {
+  // The tag, the length and the units are a byte each. No text at all is not for here.
+  if (text.size() - 1 >= longestShort || !hasRoom(2 + longestShort) ||
+      !narrow(to_ + 2, text.data(), text.size())) {
+    return false;
+  }
+  to_[0] = static_cast<Byte>(Tag::NarrowText);
+  to_[1] = static_cast<Byte>(text.size());
+  units_ += text.size();
+  ones_ = nullptr;
+  to_ = endText(to_, to_ + 2 + text.size());
+  return true;
+}
+
+void RecordWriter::WriteLongs(std::span<const std::int32_t> numbers) {
+  if (!hasRoom(numbers.size() * longestValue)) {
+    PersistStream::WriteLongs(numbers);
+    return;
+  }
+  for (const std::int32_t number : numbers) {
+    to_ = storeVarint(storeTag(to_, Tag::Long), zigzag(number));
+    ones_ = nullptr;
+  }
+}
+
+void RecordWriter::WriteOnes(std::int32_t count) {
+  constexpr std::int32_t usual = 256;
+  if (count > usual || !hasRoom(usual)) {
+    PersistStream::WriteOnes(count);
+    return;
+  }
+  while (count > 0) {
+    if (ones_ == nullptr || *ones_ == mostOnes) {
+      ones_ = storeTag(to_, Tag::Ones);
+      *ones_ = 0;
+      to_ = ones_ + 1;
+    }
+    const std::int32_t now = std::min<std::int32_t>(count, mostOnes - *ones_);
+    *ones_ = static_cast<Byte>(*ones_ + now);
+    count -= now;
+  }
+}
+
+void RecordWriter::WriteKept(const KeptObject& object) {
+  // It outlives the save, so nobody needs to hold it.
+  WriteValue(PersistValue::object(PersistRef(PersistRef(), object.get())));
 }
 
 void RecordWriter::writeGuarded(const PersistValue& value) {
@@ -150,35 +258,26 @@ void RecordWriter::writeText(TextView text) {
   Byte* const units = storeVarint(to_ + 1, static_cast<std::uint32_t>(text.size()));
   if (narrow(units, text.data(), text.size())) {
     *to_ = static_cast<Byte>(Tag::NarrowText);
-    endText(units + text.size());
+    to_ = endText(to_, units + text.size());
   } else {
     *to_ = static_cast<Byte>(Tag::WideText);
     storeUnits(units, text.data(), text.size());
-    endText(units + 2 * text.size());
+    to_ = endText(to_, units + 2 * text.size());
   }
   units_ += text.size();
 }
 
-inline void RecordWriter::endText(Byte* end) noexcept {
-  const auto size = static_cast<std::size_t>(end - to_);
+inline Byte* RecordWriter::endText(Byte* begin, Byte* end) noexcept {
+  const auto size = static_cast<std::size_t>(end - begin);
   // Texts of one length mostly differ in their last unit, too.
-  if (size == lastTextSize_ && end[-1] == buffer_[lastText_ + size - 1]) {
-    endAlike(end);
-    return;
-  }
-  lastText_ = static_cast<std::size_t>(to_ - buffer_.get());
-  lastTextSize_ = size;
-  to_ = end;
-}
-
-void RecordWriter::endAlike(Byte* end) noexcept {
-  if (std::equal(to_, end, buffer_.get() + lastText_)) {
-    to_ = storeTag(to_, Tag::SameText);
+  const bool isPerhapsSame = size == lastTextSize_ && end[-1] == buffer_[lastText_ + size - 1];
+  if (isPerhapsSame && std::equal(begin, end, buffer_.get() + lastText_)) {
     lastTextSize_ = 0;
-  } else {
-    lastText_ = static_cast<std::size_t>(to_ - buffer_.get());
-    to_ = end;
+    return storeTag(begin, Tag::SameText);
   }
+  lastText_ = static_cast<std::size_t>(begin - buffer_.get());
+  lastTextSize_ = size;
+  return end;
 }
 
 void RecordWriter::writeObject(const PersistRef& object) {

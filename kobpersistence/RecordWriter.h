@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <exception>
 #include <memory>
+#include <span>
 
 namespace kob::persistence {
 
@@ -43,12 +44,17 @@ class RecordWriter final : public PersistStream {
   std::int32_t Version() override { return version_; }
   void setVersion(std::int32_t version) override { version_ = version; }
   void WriteValue(const PersistValue& value) override;
+  void WriteStrings(std::span<const TextView> texts) override;
+  void WriteLongs(std::span<const std::int32_t> numbers) override;
+  void WriteOnes(std::int32_t count) override;
+  void WriteKept(const KeptObject& object) override;
   const PersistValue& ReadValue() override;
 
  private:
-  /// Makes room for so many bytes, and a block beyond them.
+  /// Whether there is room for so many bytes, and a block beyond them.
+  bool hasRoom(std::size_t size) const noexcept { return static_cast<std::size_t>(limit_ - to_) >= size; }
   void reserve(std::size_t size) {
-    if (static_cast<std::size_t>(limit_ - to_) < size) {
+    if (!hasRoom(size)) {
       grow(size);
     }
   }
@@ -57,10 +63,14 @@ class RecordWriter final : public PersistStream {
   void writeGuarded(const PersistValue& value);
   void writeAny(const PersistValue& value);
   void writeText(TextView text);
-  /// The text at to_ ends here, unless it is the one before it once more.
-  void endText(Byte* end) noexcept;
-  /// The same for a text that might be.
-  void endAlike(Byte* end) noexcept;
+  /// Writes a short text of units below 256, without a failure; false, and nothing is written, for another
+  /// one.
+  bool writeShort(TextView text) noexcept;
+  /// Writes short texts that lie one behind the other and have units below 256, without a failure; the number
+  /// of those at the front that do, perhaps 0.
+  std::size_t writeRun(std::span<const TextView> texts) noexcept;
+  /// Where a text ends that was put there: at once when it is the one before it once more.
+  Byte* endText(Byte* begin, Byte* end) noexcept;
   void writeObject(const PersistRef& object);
   void endRecord(Byte classNumber);
 

@@ -186,7 +186,8 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   void makeMessage() const;
   void makeFactors() const;
   Factor factor(std::shared_ptr<FactorList> Rare::*factors, std::int32_t langue) const;
-  /// What a record holds of a control cell.
+  /// What a record holds of a node, and of a control cell.
+  void writeChildren(PersistStream& stream) const;
   void writeControl(PersistStream& stream) const;
   void readControl(PersistStream& stream);
   void readFactors(PersistStream& stream);

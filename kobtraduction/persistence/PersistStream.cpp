@@ -5,6 +5,29 @@ namespace kob {
 
 PersistStream::~PersistStream() = default;
 
+void PersistStream::WriteStrings(std::span<const TextView> texts) {
+  for (const TextView text : texts) {
+    WriteValue(PersistValue::string(text));
+  }
+}
+
+void PersistStream::WriteLongs(std::span<const std::int32_t> numbers) {
+  for (const std::int32_t number : numbers) {
+    WriteValue(PersistValue::ofLong(number));
+  }
+}
+
+void PersistStream::WriteOnes(std::int32_t count) {
+  const PersistValue one = PersistValue::smallInteger(1);
+  for (; count > 0; --count) {
+    WriteValue(one);
+  }
+}
+
+void PersistStream::WriteKept(const KeptObject& object) {
+  WriteValue(PersistValue::object(object.share()));
+}
+
 std::shared_ptr<const void> PersistStream::image() const {
   return nullptr;
 }

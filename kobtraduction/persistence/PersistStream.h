@@ -8,8 +8,30 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 
 namespace kob {
+
+/// An object in the record of another one, which keeps it until the save has ended. The reference is taken by
+/// who needs one.
+class KeptObject {
+ public:
+  /// `kept` must outlive this.
+  template <class Object>
+  explicit KeptObject(const std::shared_ptr<Object>& kept) noexcept
+      : object_(kept.get()), kept_(&kept), share_([](const void* reference) {
+          return PersistRef(*static_cast<const std::shared_ptr<Object>*>(reference));
+        }) {}
+
+  /// Null is "nothing".
+  IKOBVBPersistStream* get() const noexcept { return object_; }
+  PersistRef share() const { return share_(kept_); }
+
+ private:
+  IKOBVBPersistStream* object_;
+  const void* kept_;
+  PersistRef (*share_)(const void* reference);
+};
 
 /// The record of one object as the persistence service shows it to that object: a version and a sequence of
 /// typed values. Any operation may fail with an exception; the object then stops reading or writing. Used on
@@ -25,6 +47,16 @@ class KOB_EXPORT PersistStream {
   /// Appends a value to the record being written. The service persists the object of an Object value in turn,
   /// at a time of its choice before the save ends; an object met twice is one object in the file.
   virtual void WriteValue(const PersistValue& value) = 0;
+
+  // The same as WriteValue for each of several values in turn, which is what they do here. A stream that has
+  // a shorter way for values of one type may take it: the record must be the same.
+
+  virtual void WriteStrings(std::span<const TextView> texts);
+  virtual void WriteLongs(std::span<const std::int32_t> numbers);
+  /// So many small integers 1.
+  virtual void WriteOnes(std::int32_t count);
+  virtual void WriteKept(const KeptObject& object);
+
   /// The next value of the record being read; it lives until the next call. The object of an Object value has
   /// been made and filled already. Reading past the record's end fails.
   virtual const PersistValue& ReadValue() = 0;

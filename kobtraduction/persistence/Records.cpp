@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <span>
 #include <typeinfo>
 #include <utility>
 
@@ -26,6 +27,8 @@ constexpr std::int32_t cellVersion = 2;
 
 /// A caption and a tool tip. The count that a record tells is not trusted before its entries are there.
 constexpr std::int32_t usualEntries = 2;
+/// Texts of an entry that are written at once; few models have more languages.
+constexpr std::size_t textsTogether = 16;
 /// What the texts of an entry need, in bytes.
 constexpr std::size_t usualTexts = 320;
 
@@ -142,47 +145,53 @@ std::shared_ptr<ProgIdTable> KOBCellTraduction::getProgIdTable() {
 void KOBCellTraduction::write(PersistStream& stream) {
   guarded([&] {
     stream.setVersion(cellVersion);
-    stream.WriteValue(PersistValue::string(nom()));
-    stream.WriteValue(PersistValue::string(Alias()));
-    stream.WriteValue(PersistValue::ofLong(TypeCell()));
-    if (TypeCell() == 1) {
-      const CellList& cells = mustBeSet(ColCell());
-      stream.WriteValue(PersistValue::ofLong(cells.Count()));
-      int fetched = 0;
-      for (auto next = cells.begin(); next != cells.end(); ++next) {
-        // Their turn comes soon.
-        fetched = fetched > 0 ? fetched : fetchCells(next, cells, usualTexts);
-        --fetched;
-        stream.WriteValue(PersistValue::object(*next));
-      }
+    const TextView names[] = {nom(), Alias()};
+    stream.WriteStrings(names);
+    const bool isNode = TypeCell() == 1;
+    if (isNode) {
+      writeChildren(stream);
     }
-    stream.WriteValue(PersistValue::ofLong(TypeFeuille()));
-    if (TypeFeuille() == 2) {
+    const bool isControl = TypeFeuille() == 2;
+    const EntryList* const list = isControl ? entries() : nullptr;
+    const std::int32_t numbers[] = {TypeCell(), TypeFeuille(), m_left(), m_width(),
+                                    list != nullptr ? list->Count() : 0};
+    // A node's kind stands before its children, and a list that is none has no number of entries.
+    const std::size_t count = !isControl ? 2 : list == nullptr ? 4 : 5;
+    stream.WriteLongs(std::span(numbers, count).subspan(isNode ? 1 : 0));
+    if (isControl) {
       writeControl(stream);
     } else if (TypeFeuille() == 1) {
-      stream.WriteValue(PersistValue::object(Traduction()));
+      message();
+      stream.WriteKept(KeptObject(traduction_));
     }
     stream.WriteValue(PersistValue::ofBoolean(Contexte()));
   });
 }
 
+void KOBCellTraduction::writeChildren(PersistStream& stream) const {
+  const CellList* const list = ColCell().get();
+  const std::int32_t numbers[] = {TypeCell(), list != nullptr ? list->Count() : 0};
+  stream.WriteLongs(std::span(numbers, list != nullptr ? 2 : 1));
+  const CellList& cells = mustBeSet(list);
+  int fetched = 0;
+  for (auto next = cells.begin(); next != cells.end(); ++next) {
+    // Their turn comes soon.
+    fetched = fetched > 0 ? fetched : fetchCells(next, cells, usualTexts);
+    --fetched;
+    stream.WriteKept(KeptObject(*next));
+  }
+}
+
 void KOBCellTraduction::writeControl(PersistStream& stream) const {
-  stream.WriteValue(PersistValue::ofLong(m_left()));
-  stream.WriteValue(PersistValue::ofLong(m_width()));
-  const EntryList& list = mustBeSet(entries());
-  stream.WriteValue(PersistValue::ofLong(list.Count()));
-  for (const auto& entry : list) {
-    stream.WriteValue(PersistValue::object(entry));
+  for (const auto& entry : mustBeSet(entries())) {
+    stream.WriteKept(KeptObject(entry));
   }
   const PersistValue one = PersistValue::smallInteger(1);
   const std::int32_t last = Global_Util::NbLangues();
-  // Factors that nobody made are all 1.
-  const std::int32_t ones = std::min(untouched_, last);
-  for (std::int32_t language = 1; language <= ones; ++language) {
-    stream.WriteValue(one);
-    stream.WriteValue(one);
-  }
-  for (std::int32_t language = std::max(ones, 0) + 1; language <= last; ++language) {
+  // Factors that nobody made are all 1, a width and a left for each language.
+  const std::int32_t untouched = std::clamp(untouched_, 0, std::max(last, 0));
+  stream.WriteOnes(2 * untouched);
+  for (std::int32_t language = untouched + 1; language <= last; ++language) {
     // Width before left, the other way round than everywhere else: files have always been written so.
     writeFactor(stream, widthFactor(language), one);
     writeFactor(stream, leftFactor(language), one);
@@ -259,15 +268,23 @@ std::shared_ptr<ProgIdTable> KOBTraductionObj::getProgIdTable() {
 void KOBTraductionObj::write(PersistStream& stream) {
   guarded([&] {
     stream.setVersion(entryVersion);
-    PersistValue value = PersistValue::string(nom());
-    stream.WriteValue(value);
+    TextView views[textsTogether] = {nom()};
+    std::size_t count = 1;
+    const auto writeTexts = [&] { stream.WriteStrings(std::span(views, std::exchange(count, 0))); };
+    const std::int32_t last = Global_Util::NbLangues();
     const TextList* const list = colTraduction_.get();
-    for (std::int32_t language = 1, last = Global_Util::NbLangues(); language <= last; ++language) {
-      // Padded to the language count, and never cut short of it; what lies beyond is dropped.
-      const TextList& texts = mustBeSet(list);
-      value.becomeString(language <= texts.Count() ? texts.Item(language) : TextView());
-      stream.WriteValue(value);
+    if (list == nullptr) {
+      writeTexts();
     }
+    for (std::int32_t language = 1; language <= last; ++language) {
+      if (count == textsTogether) {
+        writeTexts();
+      }
+      // Padded to the language count, and never cut short of it; what lies beyond is dropped.
+      const TextList& own = mustBeSet(list);
+      views[count++] = language <= own.Count() ? own.Item(language) : TextView();
+    }
+    writeTexts();
   });
 }
 

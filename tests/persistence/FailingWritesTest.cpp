@@ -45,6 +45,23 @@ TEST_F(FailingWrites, AnEntryStopsWhereItFails) {
   failEverywhere(*entry(u"Caption", {u"a", u"b", u"c"}));
 }
 
+TEST_F(FailingWrites, AnEntryInVeryManyLanguagesStopsWhereItFails) {
+  Global_Util::setNbLangues(40);
+  failEverywhere(*entry(u"Caption", {u"a", u"b", u"c"}));
+}
+
+TEST_F(FailingWrites, AControlWhoseListOfEntriesIsNoneWritesItsIndicatorsBeforeItFails) {
+  const CellRef cell = controlWithEntry();
+  cell->setColTraduction(nullptr);
+  cell->setm_left(7);
+  cell->setm_width(-9);
+  ScriptedStream stream;
+  cell->write(stream);
+  EXPECT_FALSE(Global_Util::PersistOk());
+  EXPECT_THAT(stream.record().values,
+              ElementsAre(aText(u"c"), aText(u""), aLong(2), aLong(2), aLong(7), aLong(-9)));
+}
+
 TEST_F(FailingWrites, AnEmptyLeafStopsWhereItFails) {
   failEverywhere(*emptyCell(u"a"));
 }

@@ -103,6 +103,18 @@ TEST_F(WritingRecords, ALongEntryIsCutAtTheLanguageCount) {
   EXPECT_EQ(caption->ColTraduction()->Count(), 5) << "writing changes nothing";
 }
 
+TEST_F(WritingRecords, AnEntryInVeryManyLanguagesIsWrittenWhole) {
+  Global_Util::setNbLangues(40);
+  const EntryRef texts = entry(u"Caption", {});
+  texts->ColTraduction()->AddEmpty(40 - texts->ColTraduction()->Count());
+  std::vector<::testing::Matcher<const RecordValue&>> expected = {aText(u"Caption")};
+  for (std::int32_t language = 1; language <= 40; ++language) {
+    texts->ChangeTraduction(decimal(language), language);
+    expected.push_back(aText(decimal(language)));
+  }
+  EXPECT_THAT(written(*texts), ::testing::ElementsAreArray(expected));
+}
+
 TEST_F(WritingRecords, AnEntryWithoutTextsIsPaddedWhole) {
   EXPECT_THAT(written(*entry(u"", {})), ElementsAre(aText(u""), aText(u""), aText(u""), aText(u"")));
 }
