@@ -11,6 +11,7 @@ declare -A packages=(
   [fuzz]="clang-14 libclang-rt-14-dev llvm-14"
   [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 googletest fp-compiler
              fpc-source python3"
+  [debian32]="debootstrap"
   [bench]="libbenchmark-dev gettext"
 )
 

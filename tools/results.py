@@ -29,16 +29,22 @@ def cases(path):
     return counts
 
 
+def of_program(path, failed, skipped=False):
+    """The same of a program that ended so, whatever its report says."""
+    counts = cases(path)
+    if counts is None or sum(counts) == 0:
+        return [0, 1, 0] if failed else [0, 0, 1] if skipped else [1, 0, 0]
+    if failed and counts[1] == 0:
+        counts[1] = 1
+    return counts
+
+
 def count(junit, folder):
     total = [0, 0, 0]
     for program in ElementTree.parse(junit).iter("testcase"):
         failed = program.find("failure") is not None or program.get("status") == "fail"
         skipped = program.find("skipped") is not None or program.get("status") in ("notrun", "disabled")
-        counts = cases(folder / (program.get("name") + ".xml"))
-        if counts is None or sum(counts) == 0:
-            counts = [0, 1, 0] if failed else [0, 0, 1] if skipped else [1, 0, 0]
-        elif failed and counts[1] == 0:
-            counts[1] = 1
+        counts = of_program(folder / (program.get("name") + ".xml"), failed, skipped)
         total = [a + b for a, b in zip(total, counts)]
     return total
 
