@@ -46,7 +46,7 @@ make_debian32() {
 
 # test_on_debian32: the tests of the 32-bit server, run there; ends with a line "PASSED FAILED SKIPPED".
 test_on_debian32() {
-  make_debian32
+  make_debian32 || return 1
   # Where the tree lies here, because the tests know where their files are.
   local there="$debian32$root"
   rm -rf "$there"
