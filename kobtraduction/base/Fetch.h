@@ -9,6 +9,8 @@ namespace kob {
 /// address will do, null too. Internal.
 inline void fetchBytes(const void* address, std::size_t size) noexcept {
 #if defined(__GNUC__)
+  // Without this the compiler takes the function for one that does nothing, and leaves its calls out.
+  asm volatile("" : : "r"(address));
   if (address == nullptr) {
     return;
   }
