@@ -11,6 +11,10 @@ namespace kob::qt {
 ActionObject::ActionObject(QAction& action, Role role, HostRef owner, Link link)
     : LiveObject(action, std::move(owner), link), role_(role) {}
 
+bool ActionObject::mayHave(Property property) const noexcept {
+  return property != Property::Controls && property != Property::Buttons && property != Property::Tabs;
+}
+
 std::optional<Value> ActionObject::read(Property property) {
   switch (property) {
     case Property::Caption:

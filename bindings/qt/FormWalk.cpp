@@ -3,7 +3,6 @@
 
 #include "ActionObject.h"
 #include "InternalObjects.h"
-#include "Naming.h"
 #include "TabbedObject.h"
 #include "ToolBarObject.h"
 
@@ -27,7 +26,7 @@ FormWalk::FormWalk(QWidget& form, HostRef formObject) : form_(form), formObject_
   const ClassTraits& traits = traits_.of(form.metaObject());
   const Place place{&form, &traits, &formObject_, &traits};
   if (traits.kind != Kind::WindowTitle) {
-    expose(form, form.objectName(), traits, place)->setSecondFace();
+    expose(form, form.objectName(), traits, place).setSecondFace();
   }
   visitBelow(form, place);
   dropTakenActions();
@@ -35,13 +34,8 @@ FormWalk::FormWalk(QWidget& form, HostRef formObject) : form_(form), formObject_
 }
 
 std::vector<HostRef> FormWalk::takeControls() {
-  std::vector<HostRef> members;
-  members.reserve(controls_.size());
-  for (Control& control : controls_) {
-    members.push_back(std::move(control.object));
-  }
-  controls_.clear();
-  return members;
+  facts_.clear();
+  return std::exchange(controls_, {});
 }
 
 void FormWalk::visitBelow(QWidget& parent, const Place& place) {
@@ -95,21 +89,25 @@ void FormWalk::visitWidget(QWidget& widget, const Place& place) {
   const ClassTraits& traits = traits_.of(widget.metaObject());
   Place inside{&widget, &traits, place.container, place.containerTraits};
   HostRef object;
-  const auto met = met_.find(&widget);
+  const auto met = met_.empty() ? met_.end() : met_.find(&widget);
   if (met == met_.end()) {
-    QString name = widget.objectName();
+    const QString name = widget.objectName();
     const Exposure exposure =
         exposureOf({&widget, name, traits, place.parent, *place.parentTraits, *place.containerTraits});
     if (exposure == Exposure::Closed) {
       return;
     }
     if (exposure == Exposure::Control) {
-      object = expose(widget, std::move(name), traits, place);
+      expose(widget, name, traits, place);
+      if (widget.children().isEmpty() && widget.actions().isEmpty()) {
+        return;
+      }
       if (traits.kind == Kind::Menu) {
         // Menus are no containers: what stands in one is the form's.
         inside.container = &formObject_;
         inside.containerTraits = &traits_.of(form_.metaObject());
       } else {
+        object = controls_.back();
         inside.container = &object;
         inside.containerTraits = &traits;
       }
@@ -135,9 +133,14 @@ void FormWalk::visitOwnedAction(QAction& action) {
   if (isInternalAction(&action) || shownOnly_.count(&action) != 0) {
     return;
   }
-  controls_.push_back(
-      {std::make_shared<ActionObject>(action, ActionObject::Role::Control, formObject_, Link::Parent),
-       formObject_.get(), ownName(action)});
+  add(std::make_shared<ActionObject>(action, ActionObject::Role::Control, formObject_, Link::Parent),
+      formObject_, ownName(action));
+}
+
+void FormWalk::add(std::shared_ptr<LiveObject> object, const HostRef& owner, const QString& name) {
+  facts_.push_back({object.get(), owner.get()});
+  paths_.add(owner.get(), name);
+  controls_.push_back(std::move(object));
 }
 
 // Actions and menus that are nobody's children are part of each form that shows them.
@@ -181,8 +184,8 @@ FormWalk::Owner FormWalk::ownerOf(const QAction& action) {
   return Owner::Nobody;
 }
 
-std::shared_ptr<LiveObject> FormWalk::expose(QWidget& widget, QString name, const ClassTraits& traits,
-                                             const Place& place) {
+LiveObject& FormWalk::expose(QWidget& widget, const QString& name, const ClassTraits& traits,
+                             const Place& place) {
   const bool isMenu = traits.kind == Kind::Menu;
   const HostRef& owner = isMenu ? formObject_ : *place.container;
   std::shared_ptr<LiveObject> object;
@@ -203,8 +206,12 @@ std::shared_ptr<LiveObject> FormWalk::expose(QWidget& widget, QString name, cons
                                                   isMenu ? Link::Parent : Link::Container);
       break;
   }
-  controls_.push_back({object, owner.get(), name.isEmpty() ? ownName(widget) : std::move(name)});
-  return object;
+  if (name.isEmpty()) {
+    add(std::move(object), owner, ownName(widget));
+  } else {
+    add(std::move(object), owner, name);
+  }
+  return *facts_.back().object;
 }
 
 void FormWalk::takeToolBar(QToolBar& bar, const std::shared_ptr<ToolBarObject>& object) {
@@ -244,31 +251,47 @@ void FormWalk::dropTakenActions() {
   if (takenActions_.empty()) {
     return;
   }
-  std::erase_if(controls_,
-                [this](const Control& control) { return takenActions_.count(control.object->live()) != 0; });
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < facts_.size(); ++i) {
+    if (takenActions_.count(facts_[i].object->live()) == 0) {
+      std::swap(controls_[kept], controls_[i]);
+      std::swap(facts_[kept], facts_[i]);
+      ++kept;
+    }
+  }
+  controls_.resize(kept);
+  facts_.resize(kept);
 }
 
 void FormWalk::number() {
+  const auto eachPart = [this](auto use) {
+    for (const Button& button : buttons_) {
+      use(*button.object, static_cast<const HostObject*>(button.toolBar.get()));
+    }
+    for (const Menu& menu : menus_) {
+      use(*menu.object, static_cast<const HostObject*>(buttons_[menu.button].object.get()));
+    }
+  };
+  eachPart([this](LiveObject& part, const void* container) { paths_.add(container, ownName(*part.live())); });
+  if (!paths_.mayCollide()) {
+    return;
+  }
   std::vector<NamedObject> named;
-  named.reserve(controls_.size() + buttons_.size() + menus_.size());
-  for (Control& control : controls_) {
-    named.push_back({control.object.get(), control.container, std::move(control.name)});
+  const auto name = [&named](LiveObject& object, const void* container) {
+    named.push_back({&object, container, ownName(*object.live())});
+  };
+  named.reserve(facts_.size() + buttons_.size() + menus_.size());
+  for (const Facts& control : facts_) {
+    name(*control.object, control.container);
   }
-  for (const Button& button : buttons_) {
-    named.push_back({button.object.get(), static_cast<const HostObject*>(button.toolBar.get()),
-                     ownName(*button.object->live())});
-  }
-  for (const Menu& menu : menus_) {
-    named.push_back({menu.object.get(), static_cast<const HostObject*>(buttons_[menu.button].object.get()),
-                     ownName(*menu.object->live())});
-  }
+  eachPart(name);
   numberEqualNames(named);
 }
 
 HostRef FormWalk::find(const QObject& live) const {
-  for (const Control& control : controls_) {
-    if (control.object->live() == &live) {
-      return control.object;
+  for (std::size_t i = 0; i < facts_.size(); ++i) {
+    if (facts_[i].object->live() == &live) {
+      return controls_[i];
     }
   }
   for (const Button& button : buttons_) {

@@ -3,6 +3,7 @@
 
 #include "ClassTraits.h"
 #include "LiveObject.h"
+#include "Naming.h"
 #include "ObjectBlock.h"
 
 #include <QAction>
@@ -36,11 +37,10 @@ class FormWalk {
   HostRef find(const QObject& live) const;
 
  private:
-  // A control with the object that its path leads through: the form, or another control.
-  struct Control {
-    std::shared_ptr<LiveObject> object;
-    const void* container;
-    QString name;
+  // A control and the object that its path leads through: the form, or another control.
+  struct Facts {
+    LiveObject* object = nullptr;
+    const void* container = nullptr;
   };
   struct Menu {
     std::shared_ptr<LiveObject> object;
@@ -69,8 +69,9 @@ class FormWalk {
   void visitPage(QWidget* page, const Place& place);
   void visitOwnedAction(QAction& action);
   void visitShownActions(const QWidget& widget, const Place& place);
-  std::shared_ptr<LiveObject> expose(QWidget& widget, QString name, const ClassTraits& traits,
-                                     const Place& place);
+  /// The object stays the last of the controls until the next one is added.
+  LiveObject& expose(QWidget& widget, const QString& name, const ClassTraits& traits, const Place& place);
+  void add(std::shared_ptr<LiveObject> object, const HostRef& owner, const QString& name);
   void takeToolBar(QToolBar& bar, const std::shared_ptr<ToolBarObject>& object);
   void takeMenus(QToolButton& button, ButtonObject& object);
   Owner ownerOf(const QAction& action);
@@ -82,7 +83,10 @@ class FormWalk {
   HostRef formObject_;
   TraitsCache traits_;
   ObjectBlocks blocks_;
-  std::vector<Control> controls_;
+  std::vector<HostRef> controls_;
+  /// The same controls.
+  std::vector<Facts> facts_;
+  PathHashes paths_;
   std::vector<Button> buttons_;
   std::vector<Menu> menus_;
   std::unordered_map<const QWidget*, Met> met_;

@@ -20,6 +20,8 @@ class ForwardingObject : public HostObject {
   }
   std::optional<Value> item(std::int32_t index) override { return target_->item(index); }
   std::optional<std::vector<HostRef>> enumerate() override { return target_->enumerate(); }
+  bool mayHave(Property property) const noexcept override { return target_->mayHave(property); }
+  bool tellPlace(PlainPlace& place) override { return target_->tellPlace(place); }
   const void* identity() const noexcept override { return target_->identity(); }
 
  protected:

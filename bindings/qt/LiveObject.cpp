@@ -6,6 +6,7 @@
 
 #include <kobtraductionqt/KOBTraductionQt.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace kob::qt {
@@ -17,6 +18,13 @@ constexpr char indexName[] = "Index";
 
 bool isText(Property property) noexcept {
   return property == Property::Caption || property == Property::ToolTipText;
+}
+
+/// Whether the application, or somebody before, gave the object a property of these names.
+bool hasTagOrIndex(const QObject& object) {
+  const QList<QByteArray> names = object.dynamicPropertyNames();
+  return std::any_of(names.begin(), names.end(),
+                     [](const QByteArray& name) { return name == tagName || name == indexName; });
 }
 
 }  // namespace
@@ -76,8 +84,7 @@ bool LiveObject::appendText(Property property, Text& text) {
     return false;
   }
   if (property == Property::Name) {
-    const QString name = ownName(*object);
-    text.append(reinterpret_cast<const char16_t*>(name.constData()), static_cast<std::size_t>(name.size()));
+    text += units(ownName(*object));
     return true;
   }
   return (property == Property::Tag && object->dynamicPropertyNames().isEmpty()) ||
@@ -93,6 +100,20 @@ bool LiveObject::assignText(Property property, TextView text) {
     return (text.empty() && object->dynamicPropertyNames().isEmpty()) || writeTag(*object, Value(text));
   }
   return isText(property) ? writeText(property, toQString(text)) : write(property, Value(text));
+}
+
+bool LiveObject::tellPlace(PlainPlace& place) {
+  const QObject* const object = live();
+  if (object == nullptr || owner_ == nullptr || link_ == Link::None || hasTagOrIndex(*object)) {
+    return false;
+  }
+  place.container = &owner_;
+  place.link = link_ == Link::Container ? Property::Container : Property::Parent;
+  place.name = units(ownName(*object));
+  if (index_ >= 0) {
+    place.name += u'(' + decimal(index_) + u')';
+  }
+  return true;
 }
 
 const void* LiveObject::identity() const noexcept {

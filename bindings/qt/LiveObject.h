@@ -39,6 +39,7 @@ class LiveObject : public HostObject {
   bool setIndexed(Property property, std::int32_t index, const Value& value) final;
   bool appendText(Property property, Text& text) final;
   bool assignText(Property property, TextView text) final;
+  bool tellPlace(PlainPlace& place) final;
   const void* identity() const noexcept override;
 
  protected:

@@ -2,6 +2,7 @@
 #include "Naming.h"
 
 #include "LiveObject.h"
+#include "QtValue.h"
 
 #include <kobtraduction/base/Text.h>
 
@@ -37,10 +38,6 @@ QString numbered(const QString& name, std::int32_t number) {
   return name + u'(' + QString::number(number) + u')';
 }
 
-TextView units(const QString& text) noexcept {
-  return {reinterpret_cast<const char16_t*>(text.constData()), static_cast<std::size_t>(text.size())};
-}
-
 // The objects of one path.
 struct SamePath {
   const void* container;
@@ -50,18 +47,24 @@ struct SamePath {
   std::int32_t next = 0;
 };
 
+std::uint32_t hashOf(const void* container, TextView name) noexcept {
+  const auto address = reinterpret_cast<std::uintptr_t>(container) >> 4;
+  return hashUpper(name) ^ (static_cast<std::uint32_t>(address) * 0x9E3779B1U);
+}
+
+std::size_t tableSize(std::size_t most) noexcept {
+  std::size_t size = 16;
+  while (size < most * 2) {
+    size *= 2;
+  }
+  return size;
+}
+
 // Paths by container and name, case ignored. One block each for the paths and for the slots: a form with
 // thousands of controls is numbered each time that it is walked.
 class Paths {
  public:
-  explicit Paths(std::size_t most) {
-    std::size_t size = 16;
-    while (size < most * 2) {
-      size *= 2;
-    }
-    slots_.assign(size, empty);
-    paths_.reserve(most);
-  }
+  explicit Paths(std::size_t most) : slots_(tableSize(most), empty) { paths_.reserve(most); }
 
   /// The name stays where it is, and must.
   std::size_t add(const void* container, TextView name) {
@@ -81,10 +84,6 @@ class Paths {
  private:
   static constexpr std::uint32_t empty = ~std::uint32_t{0};
 
-  static std::uint32_t hashOf(const void* container, TextView name) {
-    const auto address = reinterpret_cast<std::uintptr_t>(container) >> 4;
-    return hashUpper(name) ^ (static_cast<std::uint32_t>(address) * 0x9E3779B1U);
-  }
   std::uint32_t& slotOf(const void* container, TextView name, std::uint32_t hash) {
     std::size_t place = hash & (slots_.size() - 1);
     while (slots_[place] != empty) {
@@ -113,6 +112,32 @@ QString ownName(const QObject& object) {
     return name;
   }
   return QString::fromUtf8(object.metaObject()->className());
+}
+
+void PathHashes::add(const void* container, const QString& name) {
+  hashes_.push_back(hashOf(container, units(name)));
+  looksNumbered_ = looksNumbered_ || name.endsWith(u')');
+}
+
+bool PathHashes::mayCollide() const {
+  if (looksNumbered_) {
+    return true;
+  }
+  std::vector<std::uint32_t> met(tableSize(hashes_.size()));
+  const std::size_t mask = met.size() - 1;
+  for (const std::uint32_t hash : hashes_) {
+    // 0 is a free slot.
+    const std::uint32_t mark = hash | 1;
+    std::size_t place = (hash >> 1) & mask;
+    while (met[place] != 0) {
+      if (met[place] == mark) {
+        return true;
+      }
+      place = (place + 1) & mask;
+    }
+    met[place] = mark;
+  }
+  return false;
 }
 
 void numberEqualNames(const std::vector<NamedObject>& objects) {

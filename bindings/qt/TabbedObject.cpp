@@ -70,6 +70,10 @@ void setTabToolTip(Tabs& tabs, int tab, const QString& toolTip) {
 TabbedObject::TabbedObject(QWidget& widget, Kind kind, HostRef owner, Link link)
     : WidgetObject(widget, kind, std::move(owner), link) {}
 
+bool TabbedObject::mayHave(Property property) const noexcept {
+  return property == Property::Tabs || WidgetObject::mayHave(property);
+}
+
 int TabbedObject::count() const {
   return withTabs(widget(), kind(), [](auto& tabs) { return tabs.count(); });
 }

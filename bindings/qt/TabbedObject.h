@@ -12,6 +12,8 @@ class TabbedObject final : public WidgetObject {
  public:
   TabbedObject(QWidget& widget, Kind kind, HostRef owner, Link link);
 
+  bool mayHave(Property property) const noexcept override;
+
  private:
   std::optional<Value> read(Property property) override;
   bool write(Property property, const Value& value) override;

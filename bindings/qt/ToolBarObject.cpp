@@ -20,6 +20,10 @@ void ToolBarObject::setButtons(std::vector<HostRef> buttons) {
   buttons_ = collection(std::move(buttons));
 }
 
+bool ToolBarObject::mayHave(Property property) const noexcept {
+  return property == Property::Buttons || WidgetObject::mayHave(property);
+}
+
 std::optional<Value> ToolBarObject::read(Property property) {
   return property == Property::Buttons ? Value(buttons_) : WidgetObject::read(property);
 }

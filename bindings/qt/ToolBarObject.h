@@ -14,6 +14,8 @@ class ToolBarObject final : public WidgetObject {
   ToolBarObject(QWidget& toolBar, HostRef owner);
   void setButtons(std::vector<HostRef> buttons);
 
+  bool mayHave(Property property) const noexcept override;
+
  private:
   std::optional<Value> read(Property property) override;
 

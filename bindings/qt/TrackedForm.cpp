@@ -36,6 +36,11 @@ class TrackedControl final : public ForwardingObject {
                ? setTracked(target(), property, value, places_)
                : target()->set(property, value);
   }
+  bool appendText(Property property, Text& text) override { return target()->appendText(property, text); }
+  bool assignText(Property property, TextView text) override {
+    return property == Property::Left || property == Property::Width ? set(property, Value(text))
+                                                                     : target()->assignText(property, text);
+  }
 
  private:
   std::vector<WrittenPlace>& places_;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include <kobtraduction/component/Global_Util.h>
+#include <kobtraduction/engine/ControlCells.h>
 #include <kobtraduction/engine/ControlPath.h>
 #include <kobtraduction/engine/GatheredControls.h>
 #include <kobtraduction/engine/HostModes.h>
@@ -55,11 +56,19 @@ void traduitDialog(const KOBModeleTraduction& model, const HostRef& form, std::i
   }
   const std::vector<HostRef> controls = gatherControls(form, RecordBinding::Bound);
 
+  ControlCells cells(model, paths);
   // Skip mode to the end.
   for (const HostRef& control : controls) {
     bool shown = true;
     if (onlyVisible) {
       skip(shown, readBoolean(control, Property::Visible));
+    }
+    // A control without a tag has neither markers nor a context, and nothing to blank meanwhile.
+    if (const auto known = onlyContainer == nullptr ? cells.find(control) : std::nullopt) {
+      if (*known != nullptr && shown) {
+        (*known)->TraduitCtrl(control, langue, {}, false, false);
+      }
+      continue;
     }
     Text tag;
     appendText(tag, control, Property::Tag);

@@ -4,6 +4,7 @@
 #include <kobtraduction/model/KOBCellTraduction.h>
 
 #include <cmath>
+#include <cstring>
 #include <exception>
 #include <limits>
 #include <vector>
@@ -19,9 +20,28 @@ TextView textOf(const KOBTraductionObj& entry, std::int32_t langue) {
   return text.empty() ? texts.Item(1) : text;
 }
 
-/// Whether an entry bears a name, case ignored; most are spelled as the component spells them.
-bool isNamed(TextView name, TextView usual, TextView uppered) {
-  return sameUnits(name, usual) || equalToUpper(name, uppered);
+enum class TextRole : std::uint8_t { Caption, ToolTip, Other };
+
+/// What an entry's name, case ignored, says of its text. Most are spelled as the component spells them.
+TextRole roleOf(TextView name) {
+  constexpr TextView caption = u"Caption";
+  constexpr TextView toolTip = u"ToolTip";
+  if (name.size() != caption.size()) {
+    return TextRole::Other;
+  }
+  // Lengths that the compiler knows make each comparison a few instructions.
+  static_assert(caption.size() == toolTip.size());
+  constexpr std::size_t bytes = caption.size() * sizeof(char16_t);
+  if (std::memcmp(name.data(), caption.data(), bytes) == 0) {
+    return TextRole::Caption;
+  }
+  if (std::memcmp(name.data(), toolTip.data(), bytes) == 0) {
+    return TextRole::ToolTip;
+  }
+  if (equalToUpper(name, u"CAPTION")) {
+    return TextRole::Caption;
+  }
+  return equalToUpper(name, u"TOOLTIP") ? TextRole::ToolTip : TextRole::Other;
 }
 
 /// A text that stays whatever becomes of the model.
@@ -60,11 +80,11 @@ struct ControlTexts {
   /// A later entry of the same name overrides an earlier one.
   void readFrom(const KOBCellTraduction& cell, std::int32_t langue) {
     for (const auto& entry : mustBeSet(cell.entries())) {
-      const TextView name = mustBeSet(entry).nom();
-      if (isNamed(name, u"Caption", u"CAPTION")) {
+      const TextRole role = roleOf(mustBeSet(entry).nom());
+      if (role == TextRole::Caption) {
         hasCaption = true;
         caption = textOf(*entry, langue);
-      } else if (isNamed(name, u"ToolTip", u"TOOLTIP")) {
+      } else if (role == TextRole::ToolTip) {
         hasToolTip = true;
         toolTip = textOf(*entry, langue);
       }
@@ -132,7 +152,9 @@ void translate(const KOBCellTraduction& cell, const HostRef& control, std::int32
                bool keepToolTip, bool keepCaption) {
   // Skip mode.
   double tabs = 0;
-  skip(tabs, readDouble(control, Property::Tabs));
+  if (mayHave(control, Property::Tabs)) {
+    skip(tabs, readDouble(control, Property::Tabs));
+  }
 
   // Handler mode, up to the writes.
   if (tabs > 0) {

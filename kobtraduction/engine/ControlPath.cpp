@@ -29,10 +29,8 @@ const Text& ControlPaths::pathOf(const HostRef& control) {
   if (container == nullptr) {
     path_ = module_;
     begun_ = nullptr;
-  } else if (followsContainer) {
-    startWith(container, Property::Container, byContainer_);
   } else {
-    startWith(container, Property::Parent, byParent_);
+    pathInside(container, followsContainer ? Property::Container : Property::Parent);
   }
   path_ += u'\\';
   appendElementName(path_, control);
@@ -43,6 +41,11 @@ const Text& ControlPaths::pathOf(const HostRef& control) {
     path_ += u'\\';
     path_ += context;
   }
+  return path_;
+}
+
+const Text& ControlPaths::pathInside(const HostRef& container, Property link) {
+  startWith(container, link, link == Property::Container ? byContainer_ : byParent_);
   return path_;
 }
 

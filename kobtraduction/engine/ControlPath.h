@@ -17,6 +17,9 @@ class ControlPaths {
   /// The path of a form, a control or a control record; never fails. It lives until the next one is asked
   /// for.
   const Text& pathOf(const HostRef& control);
+  /// What the paths of the controls in a container begin with, `link` being what leads from one to the next.
+  /// It lives until the next one is asked for.
+  const Text& pathInside(const HostRef& container, Property link);
 
  private:
   struct Known {

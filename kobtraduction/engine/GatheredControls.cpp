@@ -3,6 +3,7 @@
 #include <kobtraduction/engine/HostModes.h>
 #include <kobtraduction/model/KOBCtrlTraduction.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace kob {
@@ -42,6 +43,10 @@ void gatherButtons(const HostRef& toolBar, const HostRef& buttons, RecordBinding
   }
 }
 
+bool mayHaveMembers(const HostRef& control) noexcept {
+  return mayHave(control, Property::Controls) || mayHave(control, Property::Buttons);
+}
+
 }  // namespace
 
 std::vector<HostRef> gatherControls(const HostRef& form, RecordBinding binding) {
@@ -52,12 +57,17 @@ std::vector<HostRef> gatherControls(const HostRef& form, RecordBinding binding) 
   if (controls != nullptr) {
     skip(members, controls->enumerate());
   }
+  if (std::none_of(members.begin(), members.end(), mayHaveMembers)) {
+    return members;
+  }
   gathered.reserve(members.size());
   for (HostRef& control : members) {
     HostRef subControls;
     HostRef buttons;
-    skip(subControls, readObject(control, Property::Controls));
-    skip(buttons, readObject(control, Property::Buttons));
+    if (mayHaveMembers(control)) {
+      skip(subControls, readObject(control, Property::Controls));
+      skip(buttons, readObject(control, Property::Buttons));
+    }
     if (buttons == nullptr) {
       gathered.push_back(std::move(control));
     } else {

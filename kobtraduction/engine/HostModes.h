@@ -43,6 +43,11 @@ auto& mustBeSet(const Pointer& object) {
   return *object;
 }
 
+/// Whether it makes sense to read a property; nothing has none.
+inline bool mayHave(const HostRef& object, Property property) noexcept {
+  return object != nullptr && object->mayHave(property);
+}
+
 // Reading with conversion. A null object, a property that is missing and a value that does not convert are
 // all the same: the operation failed.
 

@@ -75,6 +75,14 @@ bool HostObject::assignText(Property property, TextView text) {
   return set(property, Value(text));
 }
 
+bool HostObject::mayHave(Property /*property*/) const noexcept {
+  return true;
+}
+
+bool HostObject::tellPlace(PlainPlace& /*place*/) {
+  return false;
+}
+
 const void* HostObject::identity() const noexcept {
   return this;
 }

@@ -43,6 +43,17 @@ KOB_EXPORT TextView propertyName(Property property) noexcept;
 /// The property of a name, letter case ignored; empty when the engine knows no such property.
 KOB_EXPORT std::optional<Property> propertyByName(TextView name) noexcept;
 
+class HostObject;
+
+/// What leads to an object and what it is called there, as an object without a context tells it at once.
+struct PlainPlace {
+  /// The object that `link` ("Container" or "Parent") leads to, never nothing; lives as long as the object.
+  const HostRef* container = nullptr;
+  Property link = Property::Container;
+  /// The name as it stands in a path, with its index.
+  Text name;
+};
+
 /// A form, control, toolbar button, button menu or collection of the host application, as the engine sees it.
 ///
 /// Asking an object for what it does not have is the ordinary case: every operation answers "failed" (an
@@ -73,6 +84,16 @@ class KOB_EXPORT HostObject {
   virtual bool appendText(Property property, Text& text);
   /// The view need not outlive a change of the model: whoever runs an application's code takes a copy first.
   virtual bool assignText(Property property, TextView text);
+
+  // Shortcuts for bindings that know an answer without asking the live object. The engine then saves the
+  // questions; without an override they are asked, one by one and in their order.
+
+  /// False when a property is never answered; true when only reading it tells.
+  virtual bool mayHave(Property property) const noexcept;
+  /// Tells the object's place when its tag reads "" and writing "" to it does nothing; false, and any place,
+  /// for all others. Neither this nor reading any property of the object or of what it stands in may run code
+  /// of the application.
+  virtual bool tellPlace(PlainPlace& place);
 
   /// The same for two references to one live object, different for any two others while both are held.
   virtual const void* identity() const noexcept;

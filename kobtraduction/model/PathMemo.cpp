@@ -27,6 +27,10 @@ void treeChanged() noexcept {
   ++treeState;
 }
 
+std::uint64_t treeChanges() noexcept {
+  return treeState;
+}
+
 KOBCellTraduction* PathMemo::find(TextView path) const noexcept {
   if (used_ == 0 || state_ != treeState) {
     return nullptr;

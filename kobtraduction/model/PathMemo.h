@@ -15,6 +15,9 @@ class KOBCellTraduction;
 /// is void from now on. Internal.
 void treeChanged() noexcept;
 
+/// How often that was told on the calling thread. Internal.
+std::uint64_t treeChanges() noexcept;
+
 /// Remembers to which cell a whole path led, case ignored, until a tree of the thread changes. Internal.
 class PathMemo {
  public:

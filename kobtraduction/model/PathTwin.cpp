@@ -1,5 +1,5 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
-#include <kobtraduction/base/Failure.h>
+#include <kobtraduction/model/PathSteps.h>
 #include <kobtraduction/model/PathTwin.h>
 
 #include <algorithm>
@@ -8,14 +8,15 @@ namespace kob {
 
 KOBCellTraduction* PathTwin::find(const KOBCellTraduction& cell) {
   const Found start = startOf(cell);
-  const Found own = start ? follow(*start, cell.nom()) : std::nullopt;
+  // A name may hold separators: it then is several segments of the path, or none.
+  const Found own = start ? followPath(*start, cell.nom()) : std::nullopt;
   open(cell, start, own);
   return own ? *own : other_.findCell(cell.GetCellPath());
 }
 
 void PathTwin::pass(const KOBCellTraduction& node) {
   const Found start = startOf(node);
-  open(node, start, start ? follow(*start, node.nom()) : std::nullopt);
+  open(node, start, start ? followPath(*start, node.nom()) : std::nullopt);
 }
 
 PathTwin::Found PathTwin::startOf(const KOBCellTraduction& cell) {
@@ -32,33 +33,6 @@ PathTwin::Found PathTwin::startOf(const KOBCellTraduction& cell) {
   }
   levels_.erase(level.base(), levels_.end());
   return levels_.back().start;
-}
-
-PathTwin::Found PathTwin::follow(KOBCellTraduction* start, TextView name) {
-  // A name may hold separators: it then is several segments of the path, or none.
-  KOBCellTraduction* cell = start;
-  while (cell != nullptr) {
-    const std::size_t segmentStart = name.find_first_not_of(u'\\');
-    if (segmentStart == TextView::npos) {
-      break;
-    }
-    name.remove_prefix(segmentStart);
-    const TextView segment = name.substr(0, name.find(u'\\'));
-    name.remove_prefix(segment.size());
-    if (cell->TypeCell() == 2) {
-      return nullptr;
-    }
-    if (cell->ColCell() == nullptr) {
-      return std::nullopt;
-    }
-    try {
-      cell = cell->ColCell()->find(segment);
-    } catch (const Failure&) {
-      // Who looks up a path through a damaged list is told so each time.
-      return std::nullopt;
-    }
-  }
-  return cell;
 }
 
 void PathTwin::open(const KOBCellTraduction& node, const Found& start, const Found& own) {

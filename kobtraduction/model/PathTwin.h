@@ -32,7 +32,6 @@ class PathTwin {
 
   /// Where the paths of the children of the cell's parent begin.
   Found startOf(const KOBCellTraduction& cell);
-  static Found follow(KOBCellTraduction* start, TextView name);
   void open(const KOBCellTraduction& node, const Found& start, const Found& own);
 
   const KOBModeleTraduction& other_;
