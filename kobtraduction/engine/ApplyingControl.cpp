@@ -1,4 +1,5 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobtraduction/base/Fetch.h>
 #include <kobtraduction/component/Global_Util.h>
 #include <kobtraduction/engine/HostModes.h>
 #include <kobtraduction/model/KOBCellTraduction.h>
@@ -179,6 +180,7 @@ void translate(const KOBCellTraduction& cell, const HostRef& control, std::int32
   }
 
   // Skip mode. The host may change the model while it takes the caption, so the tool tip is copied before.
+  fetch(texts.caption.data());
   const Copy toolTip(texts.toolTip);
   if (!keepCaption && texts.hasCaption) {
     write(control, Property::Caption, texts.caption);

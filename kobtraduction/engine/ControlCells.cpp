@@ -11,7 +11,8 @@ std::optional<KOBCellTraduction*> ControlCells::find(const HostRef& control) {
     return std::nullopt;
   }
   const Start& start = startOf(*place_.container, place_.link);
-  return start.cell ? followPath(*start.cell, place_.name) : std::nullopt;
+  previous_ = {&control, place_.link, start.cell ? followPath(*start.cell, place_.name) : std::nullopt};
+  return previous_.cell;
 }
 
 const ControlCells::Start& ControlCells::startOf(const HostRef& container, Property link) {
@@ -19,6 +20,7 @@ const ControlCells::Start& ControlCells::startOf(const HostRef& container, Prope
     byContainer_.clear();
     byParent_.clear();
     last_ = nullptr;
+    previous_ = {};
     treeChanges_ = treeChanges();
   }
   if (last_ != nullptr && last_->container == container && last_->link == link) {
@@ -26,10 +28,19 @@ const ControlCells::Start& ControlCells::startOf(const HostRef& container, Prope
   }
   Start& start = (link == Property::Container ? byContainer_ : byParent_)[container->identity()];
   if (start.container == nullptr) {
-    start = {container, link, followPath(model_.Racine().get(), paths_.pathInside(container, link))};
+    start = {container, link, cellAt(container, link)};
   }
   last_ = &start;
   return start;
+}
+
+std::optional<KOBCellTraduction*> ControlCells::cellAt(const HostRef& container, Property link) {
+  // A control that told its place has no context, so its path is also what the paths inside it begin with.
+  if (previous_.control != nullptr && previous_.link == link &&
+      (*previous_.control)->identity() == container->identity()) {
+    return previous_.cell;
+  }
+  return followPath(model_.Racine().get(), paths_.pathInside(container, link));
 }
 
 }  // namespace kob

@@ -23,7 +23,7 @@ class ControlCells {
       : model_(model), paths_(paths) {}
 
   /// Null for no cell. Empty when only the whole path tells; no property of the control was read then. The
-  /// cell is there until the host's code runs or a tree changes.
+  /// cell is there until the host's code runs or a tree changes. The reference must live until the next call.
   std::optional<KOBCellTraduction*> find(const HostRef& control);
 
  private:
@@ -37,14 +37,21 @@ class ControlCells {
   using Starts = std::unordered_map<const void*, Start>;
 
   const Start& startOf(const HostRef& container, Property link);
+  std::optional<KOBCellTraduction*> cellAt(const HostRef& container, Property link);
 
   const KOBModeleTraduction& model_;
   ControlPaths& paths_;
   PlainPlace place_;
   Starts byContainer_;
   Starts byParent_;
-  /// Siblings mostly follow one another.
+  /// Siblings mostly follow one another,
   const Start* last_ = nullptr;
+  /// and the first of them their container.
+  struct Previous {
+    const HostRef* control = nullptr;
+    Property link = Property::Container;
+    std::optional<KOBCellTraduction*> cell;
+  } previous_;
   std::uint64_t treeChanges_ = 0;
 };
 
