@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
-#include <kobtraduction/base/Fetch.h>
 #include <kobtraduction/component/Global_Util.h>
 #include <kobtraduction/model/CellWalk.h>
 #include <kobtraduction/model/Entries.h>
 #include <kobtraduction/model/KOBModeleTraduction.h>
 #include <kobtraduction/model/SameTexts.h>
 
+#include <algorithm>
+#include <span>
 #include <vector>
 
 namespace kob {
@@ -26,21 +27,43 @@ bool lacksTexts(const TextList& texts) {
   return false;
 }
 
-/// Fetches what the turns after the next ones will read.
-void fetchLater(const SameTexts& entries, const std::vector<std::uint32_t>& lacking, std::size_t turn) {
-  constexpr std::size_t entriesAhead = 16;
-  constexpr std::size_t textsAhead = 8;
-  if (turn + entriesAhead < lacking.size()) {
-    const std::uint32_t number = lacking[turn + entriesAhead];
-    fetch(&entries.entry(number));
-    fetch(&entries.likelyOther(number));
+/// Completes entries with one reference text, whose lists are long enough for every language.
+class GroupCompletion {
+ public:
+  GroupCompletion() : texts_(static_cast<std::size_t>(std::max(Global_Util::NbLangues(), 1))) {}
+
+  void complete(std::span<KOBTraductionObj* const> group) {
+    gather(group);
+    TextList& first = textsOf(*group.front());
+    first.FillGaps(texts_);
+    // The others' own texts are about to move.
+    for (std::size_t i = 1; i < texts_.size(); ++i) {
+      texts_[i] = first.Item(static_cast<std::int32_t>(i) + 1);
+    }
+    for (KOBTraductionObj* const entry : group.subspan(1)) {
+      textsOf(*entry).FillGaps(texts_);
+    }
   }
-  if (turn + textsAhead < lacking.size()) {
-    const std::uint32_t number = lacking[turn + textsAhead];
-    fetch(entries.entry(number).textUnits());
-    fetch(entries.likelyOther(number).textUnits());
+
+ private:
+  /// Of each language but the first the text that the first entry has or would be given.
+  void gather(std::span<KOBTraductionObj* const> group) {
+    std::fill(texts_.begin(), texts_.end(), TextView());
+    std::size_t missing = texts_.size() - 1;
+    for (std::size_t entry = 0; entry < group.size() && missing > 0; ++entry) {
+      const TextList& source = textsOf(*group[entry]);
+      for (std::size_t i = 1; i < texts_.size(); ++i) {
+        if (texts_[i].empty()) {
+          texts_[i] = source.Item(static_cast<std::int32_t>(i) + 1);
+          missing -= texts_[i].empty() ? 0 : 1;
+        }
+      }
+    }
   }
-}
+
+  /// By language, from 1; that of language 1 stays "".
+  std::vector<TextView> texts_;
+};
 
 }  // namespace
 
@@ -49,16 +72,21 @@ void fetchLater(const SameTexts& entries, const std::vector<std::uint32_t>& lack
 // later one only needs to ask the first. Failures come out at the same entry and after the same fillings: an
 // entry too short for a language fails in its own turn at the latest, one that is asked in vain fails the
 // turn of the first already, and one that has no reference text at all, or a damaged place of the tree, fails
-// the turn of the very first entry of the walk.
+// the turn of the very first entry of the walk. Where every list is long enough nothing fails, and a group's
+// turns need not wait for those of others.
 void KOBModeleTraduction::CompleteIdentiques() {
   SameTexts entries;
   std::vector<std::uint32_t> lacking;
+  bool isShort = false;
+  const std::int32_t last = Global_Util::NbLangues();
   try {
     CellWalk::each(*racine_, [&](const KOBCellTraduction& cell) {
       eachEntry(cell, [&](KOBTraductionObj& entry) {
         const TextList& texts = textsOf(entry);
-        entries.add(entry, texts.Item(1));
-        if (lacksTexts(texts)) {
+        const bool hasGaps = lacksTexts(texts);
+        entries.add(entry, texts.Item(1), hasGaps);
+        isShort = isShort || texts.Count() < last;
+        if (hasGaps) {
           lacking.push_back(static_cast<std::uint32_t>(entries.count() - 1));
         }
       });
@@ -72,10 +100,13 @@ void KOBModeleTraduction::CompleteIdentiques() {
   if (lacking.empty()) {
     return;
   }
+  if (!isShort) {
+    GroupCompletion completion;
+    entries.eachWithGaps([&](std::span<KOBTraductionObj* const> group) { completion.complete(group); });
+    return;
+  }
   entries.group();
-  const std::int32_t last = Global_Util::NbLangues();
   for (std::size_t i = 0; i < lacking.size(); ++i) {
-    fetchLater(entries, lacking, i);
     TextList& target = textsOf(entries.entry(lacking[i]));
     const std::size_t first = entries.firstOf(lacking[i]);
     if (first != lacking[i]) {

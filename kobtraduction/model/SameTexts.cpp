@@ -1,4 +1,5 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobtraduction/base/Fetch.h>
 #include <kobtraduction/model/Entries.h>
 #include <kobtraduction/model/SameTexts.h>
 
@@ -15,10 +16,13 @@ constexpr unsigned digitBits = 11;
 constexpr unsigned hashBits = 32;
 constexpr std::size_t digits = std::size_t{1} << digitBits;
 
+/// What the texts of an entry need, in bytes.
+constexpr std::size_t usualTexts = 320;
+
 }  // namespace
 
-void SameTexts::add(KOBTraductionObj& entry, TextView reference) {
-  members_.push_back({hashUpper(reference), static_cast<std::uint32_t>(entries_.size())});
+void SameTexts::add(KOBTraductionObj& entry, TextView reference, bool hasGaps) {
+  members_.push_back({hashUpper(reference), static_cast<std::uint32_t>(entries_.size()), hasGaps});
   entries_.push_back(&entry);
 }
 
@@ -73,15 +77,62 @@ void SameTexts::splitRun(std::size_t start) {
   while (end < members_.size() && start_[members_[end].number] == start) {
     ++end;
   }
-  const auto place = [this](std::size_t i) { return members_.begin() + static_cast<std::ptrdiff_t>(i); };
-  std::stable_sort(place(start), place(end), [this](const Member& a, const Member& b) {
-    return lessUpper(reference(a.number), reference(b.number));
-  });
+  sortByText(start, end);
   for (std::size_t i = start; i < end; ++i) {
     if (!isSame(members_[i].number, members_[start].number)) {
       start = i;
     }
     start_[members_[i].number] = static_cast<std::uint32_t>(start);
+  }
+}
+
+void SameTexts::sortByText(std::size_t start, std::size_t end) {
+  const auto place = [this](std::size_t i) { return members_.begin() + static_cast<std::ptrdiff_t>(i); };
+  std::stable_sort(place(start), place(end), [this](const Member& a, const Member& b) {
+    return lessUpper(reference(a.number), reference(b.number));
+  });
+  for (std::size_t i = start; i < end && !ordered_.empty(); ++i) {
+    ordered_[i] = entries_[members_[i].number];
+  }
+}
+
+void SameTexts::orderEntries() {
+  ordered_.resize(members_.size());
+  for (std::size_t i = 0; i < members_.size(); ++i) {
+    ordered_[i] = entries_[members_[i].number];
+  }
+}
+
+std::size_t SameTexts::endOfSame(std::size_t start, std::size_t end) const {
+  std::size_t next = start;
+  const auto reference = [this](std::size_t member) { return textsOf(*ordered_[member]).Item(1); };
+  const TextView text = next < end ? reference(start) : TextView();
+  while (next < end && equalUpper(text, reference(next))) {
+    ++next;
+  }
+  return next;
+}
+
+bool SameTexts::isAlone(std::size_t member) const noexcept {
+  const std::uint32_t hash = members_[member].hash;
+  return (member == 0 || members_[member - 1].hash != hash) &&
+         (member + 1 == members_.size() || members_[member + 1].hash != hash);
+}
+
+void SameTexts::fetchBehind(std::size_t end) noexcept {
+  constexpr std::size_t entriesAhead = 24;
+  constexpr std::size_t textsAhead = 12;
+  for (const std::size_t last = std::min(end + entriesAhead, members_.size()); fetchedEntries_ < last;
+       ++fetchedEntries_) {
+    if (!isAlone(fetchedEntries_)) {
+      fetch(ordered_[fetchedEntries_]);
+    }
+  }
+  for (const std::size_t last = std::min(end + textsAhead, members_.size()); fetchedTexts_ < last;
+       ++fetchedTexts_) {
+    if (!isAlone(fetchedTexts_)) {
+      fetchBytes(ordered_[fetchedTexts_]->textUnits(), usualTexts);
+    }
   }
 }
 

@@ -5,6 +5,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace kob {
@@ -14,7 +16,7 @@ namespace kob {
 /// not change meanwhile. Internal.
 class SameTexts {
  public:
-  void add(KOBTraductionObj& entry, TextView reference);
+  void add(KOBTraductionObj& entry, TextView reference, bool hasGaps);
   std::size_t count() const noexcept { return entries_.size(); }
   KOBTraductionObj& entry(std::size_t number) const noexcept { return *entries_[number]; }
 
@@ -38,31 +40,59 @@ class SameTexts {
       }
     }
   }
-  /// Which other entry of its group an entry has most likely to do with: the first, or for the first one the
-  /// second. Itself when there is none.
-  const KOBTraductionObj& likelyOther(std::size_t number) const noexcept {
-    const std::size_t start = start_[number];
-    if (members_[start].number != number) {
-      return entry(members_[start].number);
+  /// Makes the groups, and calls complete(group) for each of two entries or more of which one was added with
+  /// gaps: its entries in order, as a span of pointers. Groups come in any order, their entries fetched from
+  /// memory ahead.
+  template <class Complete>
+  void eachWithGaps(Complete&& complete) {
+    sortByHash();
+    orderEntries();
+    for (std::size_t start = 0, end = 0; start < members_.size(); start = end) {
+      bool hasGaps = false;
+      for (end = start; end < members_.size() && members_[end].hash == members_[start].hash; ++end) {
+        hasGaps = hasGaps || members_[end].hasGaps != 0;
+      }
+      if (!hasGaps || end - start < 2) {
+        continue;
+      }
+      fetchBehind(end);
+      std::size_t next = endOfSame(start, end);
+      if (next < end) {
+        sortByText(start, end);
+        next = endOfSame(start, end);
+      }
+      for (std::size_t from = start; from < end; from = std::exchange(next, endOfSame(next, end))) {
+        complete(std::span<KOBTraductionObj* const>(ordered_).subspan(from, next - from));
+      }
     }
-    const bool hasSecond = start + 1 < members_.size() && members_[start + 1].hash == members_[start].hash;
-    return entry(hasSecond ? members_[start + 1].number : number);
   }
 
  private:
   struct Member {
     std::uint32_t hash;
-    std::uint32_t number;
+    std::uint32_t number : 31;
+    std::uint32_t hasGaps : 1;
   };
 
   TextView reference(std::size_t number) const;
   bool isSame(std::size_t a, std::size_t b) const;
   void sortByHash();
   void splitRun(std::size_t start);
+  void sortByText(std::size_t start, std::size_t end);
+  void orderEntries();
+  /// Where, at `end` at the latest, entries follow whose text is another one than that at `start`.
+  std::size_t endOfSame(std::size_t start, std::size_t end) const;
+  /// Fetches the entries some places behind `end`, and the texts of those that are not as far behind.
+  void fetchBehind(std::size_t end) noexcept;
+  bool isAlone(std::size_t member) const noexcept;
 
   std::vector<KOBTraductionObj*> entries_;
   /// Once grouped: the members of a group side by side, in the order of their numbers.
   std::vector<Member> members_;
+  /// The entries of the members, and how far these and their texts are fetched.
+  std::vector<KOBTraductionObj*> ordered_;
+  std::size_t fetchedEntries_ = 0;
+  std::size_t fetchedTexts_ = 0;
   /// By an entry's number: where its group starts among the members. A group may be several of one hash until
   /// their texts are compared, which is done when they are asked for: nearly always it is one.
   std::vector<std::uint32_t> start_;

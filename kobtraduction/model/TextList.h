@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace kob {
@@ -45,6 +46,9 @@ class KOB_EXPORT TextList {
   /// whether some of these remain. Fails with InvalidIndex at the first position that this list lacks, or
   /// that `source` lacks and this list wants, and has filled those before it.
   bool FillGaps(const TextList& source, std::int32_t first, std::int32_t last);
+  /// Puts these texts in the place of the list's own that are "", item by item. They are not more than the
+  /// list has and lie apart from it; the first is "", as a reference text is no gap.
+  void FillGaps(std::span<const TextView> texts);
   /// Appends so many "".
   void AddEmpty(std::int32_t count);
 
@@ -85,9 +89,9 @@ class KOB_EXPORT TextList {
   void insertEnd(std::uint32_t item, std::uint32_t end) noexcept;
   /// Puts `text` in the place of the units first..last of the run; the ends are the caller's.
   void splice(std::uint32_t first, std::uint32_t last, TextView text);
-  /// A run of its own, longer by so many units, with the texts of `source` in the gaps of these items.
-  void makeFilledRun(const TextList& source, std::uint32_t firstItem, std::uint32_t endItem,
-                     std::size_t growth);
+  /// A run of its own, longer by so many units, with the text textFor(item) in the gap of each item.
+  template <class TextFor>
+  void makeFilledRun(std::size_t growth, TextFor textFor);
   void moveEnds(std::uint32_t firstItem, std::uint32_t by) noexcept;
 
   /// Null as long as all texts are ""; no text has an end then.

@@ -8,6 +8,40 @@
 
 namespace kob {
 
+template <class TextFor>
+void TextList::makeFilledRun(std::size_t growth, TextFor textFor) {
+  const std::size_t total = length() + growth;
+  if (total > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max())) {
+    throw std::bad_alloc();
+  }
+  auto run = std::make_unique_for_overwrite<char16_t[]>(total);
+  if (units_ == nullptr) {
+    makeEnds();
+  }
+  std::uint32_t* const ownEnds = ends();
+  char16_t* written = run.get();
+  // Texts between two gaps are copied together, when the second one is reached.
+  std::uint32_t copied = 0;
+  std::uint32_t begin = 0;
+  for (std::uint32_t item = 0; item < count_; ++item) {
+    const TextView text = ownEnds[item] == begin ? textFor(item) : TextView();
+    begin = ownEnds[item];
+    if (!text.empty()) {
+      written = std::copy(units_ + copied, units_ + begin, written);
+      copied = begin;
+      written = std::copy(text.begin(), text.end(), written);
+    }
+    ownEnds[item] = static_cast<std::uint32_t>(written - run.get()) + (begin - copied);
+  }
+  std::copy(units_ + copied, units_ + begin, written);
+  if (capacity_ > 0) {
+    delete[] units_;
+  }
+  units_ = run.release();
+  capacity_ = static_cast<std::uint32_t>(total);
+  image_ = nullptr;
+}
+
 bool TextList::FillGaps(const TextList& source, std::int32_t first, std::int32_t last) {
   std::size_t growth = 0;
   bool remain = false;
@@ -33,8 +67,12 @@ bool TextList::FillGaps(const TextList& source, std::int32_t first, std::int32_t
     entriesChanged();
   }
   if (growth > 0) {
-    makeFilledRun(source, static_cast<std::uint32_t>(first) - 1, static_cast<std::uint32_t>(position) - 1,
-                  growth);
+    const auto firstItem = static_cast<std::uint32_t>(first) - 1;
+    const auto endItem = static_cast<std::uint32_t>(position) - 1;
+    makeFilledRun(growth, [&](std::uint32_t item) {
+      return item >= firstItem && item < endItem ? source.Item(static_cast<std::int32_t>(item) + 1)
+                                                 : TextView();
+    });
   }
   if (fails) {
     throw Failure(FailureKind::InvalidIndex);
@@ -42,35 +80,19 @@ bool TextList::FillGaps(const TextList& source, std::int32_t first, std::int32_t
   return remain;
 }
 
-void TextList::makeFilledRun(const TextList& source, std::uint32_t firstItem, std::uint32_t endItem,
-                             std::size_t growth) {
-  const std::size_t total = length() + growth;
-  if (total > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max())) {
-    throw std::bad_alloc();
-  }
-  auto run = std::make_unique_for_overwrite<char16_t[]>(total);
-  if (units_ == nullptr) {
-    makeEnds();
-  }
-  char16_t* written = run.get();
+void TextList::FillGaps(std::span<const TextView> texts) {
+  std::size_t growth = 0;
+  const std::uint32_t* const ownEnds = units_ != nullptr ? ends() : nullptr;
   std::uint32_t begin = 0;
-  for (std::uint32_t item = 0; item < count_; ++item) {
-    const std::uint32_t ownEnd = units_ != nullptr ? end(item) : 0;
-    if (ownEnd != begin) {
-      written = std::copy(units_ + begin, units_ + ownEnd, written);
-    } else if (item >= firstItem && item < endItem) {
-      const TextView text = source.Item(static_cast<std::int32_t>(item) + 1);
-      written = std::copy(text.begin(), text.end(), written);
-    }
-    begin = ownEnd;
-    ends()[item] = static_cast<std::uint32_t>(written - run.get());
+  for (std::uint32_t item = 0; item < texts.size(); ++item) {
+    const std::uint32_t end = ownEnds != nullptr ? ownEnds[item] : 0;
+    growth += end == begin ? texts[item].size() : 0;
+    begin = end;
   }
-  if (capacity_ > 0) {
-    delete[] units_;
+  if (growth == 0) {
+    return;
   }
-  units_ = run.release();
-  capacity_ = static_cast<std::uint32_t>(total);
-  image_ = nullptr;
+  makeFilledRun(growth, [&](std::uint32_t item) { return item < texts.size() ? texts[item] : TextView(); });
 }
 
 }  // namespace kob

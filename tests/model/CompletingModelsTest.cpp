@@ -165,6 +165,39 @@ TEST_F(CompletingModels, AShortListFailsInItsTurnAndKeepsWhatItHasRoomFor) {
   EXPECT_EQ(texts(later), (Texts{u"a", u"", u""}));
 }
 
+TEST_F(CompletingModels, AheadOfAShortListAllIsCompletedAsWithoutOne) {
+  const CellRef first = add({u"a", u"", u""});
+  add({u"a", u"first", u""});
+  add({u"a", u"second", u"third"});
+  const CellRef last = add({u"A", u"", u""});
+  add({u"b", u""});
+  EXPECT_EQ(complete(), FailureKind::InvalidIndex);
+  EXPECT_EQ(texts(first), (Texts{u"a", u"first", u"third"}));
+  EXPECT_EQ(texts(last), (Texts{u"A", u"first", u"third"}));
+}
+
+TEST_F(CompletingModels, AheadOfAShortListDifferentTextsOfOneHashAreKeptApart) {
+  const auto [first, second] = textsOfOneHash();
+  const CellRef firstGap = add({first, u"", u""});
+  const CellRef secondGap = add({second, u"", u""});
+  add({second, u"second", u""});
+  add({first, u"first", u""});
+  add({u"b", u""});
+  EXPECT_EQ(complete(), FailureKind::InvalidIndex);
+  EXPECT_EQ(texts(firstGap)[1], u"first");
+  EXPECT_EQ(texts(secondGap)[1], u"second");
+}
+
+TEST_F(CompletingModels, AheadOfAShortListDifferentTextsOfOneHashAreKeptApartWhenTheFirstHasNoGap) {
+  const auto [first, second] = textsOfOneHash();
+  add({first, u"first", u"x"});
+  const CellRef secondGap = add({second, u"", u""});
+  add({second, u"second", u""});
+  add({u"b", u""});
+  EXPECT_EQ(complete(), FailureKind::InvalidIndex);
+  EXPECT_EQ(texts(secondGap), (Texts{second, u"second", u""}));
+}
+
 TEST_F(CompletingModels, AShortListThatNobodySharesATextWithFailsToo) {
   const CellRef before = add({u"a", u"", u""});
   add({u"a", u"2", u""});
