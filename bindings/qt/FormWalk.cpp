@@ -22,6 +22,17 @@ namespace kob::qt {
 
 using Link = LiveObject::Link;
 
+namespace {
+
+template <class T>
+void makeRoom(std::vector<T>& items, std::size_t more) {
+  if (items.capacity() - items.size() < more) {
+    items.reserve(std::max(items.capacity() * 2, items.size() + more));
+  }
+}
+
+}  // namespace
+
 FormWalk::FormWalk(QWidget& form, HostRef formObject) : form_(form), formObject_(std::move(formObject)) {
   const ClassTraits& traits = traits_.of(form.metaObject());
   const Place place{&form, &traits, &formObject_, &traits};
@@ -40,7 +51,13 @@ std::vector<HostRef> FormWalk::takeControls() {
 
 void FormWalk::visitBelow(QWidget& parent, const Place& place) {
   visitPages(parent, place);
-  for (QObject* const child : parent.children()) {
+  const QObjectList& children = parent.children();
+  // Widgets lie apart in memory: counted first, they are waited for together and not one by one.
+  const auto widgets = std::count_if(children.begin(), children.end(),
+                                     [](const QObject* child) { return child->isWidgetType(); });
+  makeRoom(controls_, static_cast<std::size_t>(widgets));
+  makeRoom(facts_, static_cast<std::size_t>(widgets));
+  for (QObject* const child : children) {
     if (child->isWidgetType()) {
       visitWidget(static_cast<QWidget&>(*child), place);
     } else if (auto* const action = qobject_cast<QAction*>(child)) {

@@ -1,10 +1,25 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include <kobtraduction/engine/ControlCells.h>
+#include <kobtraduction/model/FetchCells.h>
 #include <kobtraduction/model/KOBModeleTraduction.h>
 #include <kobtraduction/model/PathMemo.h>
 #include <kobtraduction/model/PathSteps.h>
 
 namespace kob {
+
+namespace {
+
+/// What is found below a container is read soon, unless there is so much of it that it would be gone by then.
+void fetchChildren(const KOBCellTraduction* cell) noexcept {
+  constexpr std::int32_t few = 16;
+  constexpr std::size_t usualTexts = 128;
+  const CellList* const children = cell != nullptr ? cell->ColCell().get() : nullptr;
+  if (children != nullptr && children->Count() <= few) {
+    fetchCells(children->begin(), *children, usualTexts);
+  }
+}
+
+}  // namespace
 
 std::optional<KOBCellTraduction*> ControlCells::find(const HostRef& control) {
   if (control == nullptr || !control->tellPlace(place_)) {
@@ -29,6 +44,9 @@ const ControlCells::Start& ControlCells::startOf(const HostRef& container, Prope
   Start& start = (link == Property::Container ? byContainer_ : byParent_)[container->identity()];
   if (start.container == nullptr) {
     start = {container, link, cellAt(container, link)};
+    if (start.cell) {
+      fetchChildren(*start.cell);
+    }
   }
   last_ = &start;
   return start;

@@ -64,6 +64,8 @@ class PlainObject final : public HostObject {
 class ControlCellsTest : public ::testing::TestWithParam<bool> {
  protected:
   ControlCellsTest() : form(std::make_shared<PlainObject>(u"Form", nullptr)) {}
+  /// The controls hold the form.
+  ~ControlCellsTest() override { form->controls.clear(); }
 
   std::shared_ptr<PlainObject> add(TextView name, const HostRef& owner, Property link = Property::Container) {
     auto control = std::make_shared<PlainObject>(Text(name), owner, link);
