@@ -34,6 +34,7 @@ void require(bool done, const char* what) {
 class UnflushedCalls final : public kob::persistence::PosixCalls {
  public:
   int fsync(int /*file*/) override { return 0; }
+  void beginSync(int /*file*/, off_t /*offset*/, std::size_t /*size*/) override {}
 };
 
 /// The same content in four files, and what is loaded from them.

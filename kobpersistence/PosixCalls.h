@@ -32,6 +32,8 @@ class KOB_PERSISTENCE_EXPORT PosixCalls {
   virtual int fchown(int file, uid_t owner, gid_t group);
   virtual int fchmod(int file, mode_t mode);
   virtual int fsync(int file);
+  /// Has the system begin to write a part of the file to the disk, where it can do so without a wait.
+  virtual void beginSync(int file, off_t offset, std::size_t size);
   virtual int rename(const char* from, const char* to);
   virtual int unlink(const char* path);
   /// Waits a moment for another save of the same file.

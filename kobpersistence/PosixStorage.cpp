@@ -19,6 +19,8 @@ namespace kob::persistence {
 namespace {
 
 constexpr int mostLinks = 40;
+/// Bytes that go to the disk together, ahead of the flush.
+constexpr off_t syncedTogether = 2 << 20;
 /// How often a save waits a moment for another one of the same file: ten seconds in all.
 constexpr int patience = 500;
 /// A name may have 255 bytes, and the new file's has a few more than the old one's.
@@ -140,11 +142,17 @@ class PosixWritableFile final : public WritableFile {
   }
 
   void write(const Byte* from, std::size_t size) override {
+    written_ += static_cast<off_t>(size);
     while (size > 0) {
       const ssize_t done = unlessInterrupted([&] { return calls_.write(file_.get(), from, size); });
       check(done);
       from += done;
       size -= static_cast<std::size_t>(done);
+    }
+    // The disk works while the next bytes are made, and sync() waits for less.
+    if (written_ - begun_ >= syncedTogether) {
+      calls_.beginSync(file_.get(), begun_, static_cast<std::size_t>(written_ - begun_));
+      begun_ = written_;
     }
   }
 
@@ -162,6 +170,7 @@ class PosixWritableFile final : public WritableFile {
   void startOver() override {
     check(unlessInterrupted([&] { return calls_.ftruncate(file_.get(), 0); }));
     check(calls_.lseek(file_.get(), 0, SEEK_SET));
+    written_ = begun_ = 0;
   }
 
   void sync() override {
@@ -201,6 +210,9 @@ class PosixWritableFile final : public WritableFile {
   std::string target_;
   std::string scratch_;
   OpenFile file_;
+  off_t written_ = 0;
+  /// Up to where the system was asked to write to the disk.
+  off_t begun_ = 0;
   bool isReplaced_ = false;
 };
 
