@@ -138,6 +138,14 @@ TEST_P(ControlCellsTest, ContainerAndParentLeadToDifferentPaths) {
   EXPECT_EQ(captions(), "- - contained parented ");
 }
 
+TEST_P(ControlCellsTest, AContainerThatHasAParentOnlyEndsTheChain) {
+  add(u"x", add(u"Menu", form, Property::Parent));
+  translated(u"Form\\Menu\\x", u"by its parent");
+  translated(u"Menu\\x", u"by itself");
+  apply();
+  EXPECT_EQ(captions(), "- by itself ");
+}
+
 TEST_P(ControlCellsTest, NamesMayBeEmptyOrHoldSeparators) {
   const auto frame = add(u"A\\B");
   add(u"x\\\\y", frame);
