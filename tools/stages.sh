@@ -33,6 +33,7 @@ run_ctest() {
 
 stage_lint() {
   configure_preset release
+  ! have_packages windows || configure_preset windows64
   local counts="$results/lint.out" options=()
   rm -f "$counts"
   [ "$whole" = yes ] || options+=(--sample)

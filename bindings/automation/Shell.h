@@ -8,6 +8,7 @@
 #include "Module.h"
 #include "TypeLibrary.h"
 
+#include <cstdint>
 #include <cstring>
 
 namespace kob::automation {
@@ -74,8 +75,8 @@ class Shell : public Interface, public ISupportErrorInfo, public IProvideClassIn
   /// By this only objects of this very DLL are known: another one's are laid out as it pleases.
   static IID shellId() noexcept {
     IID id = {0x2F3A8911 + Self::shellNumber, 0x8F1B, 0x453F, {}};
-    const HINSTANCE handle = moduleHandle();
-    std::memcpy(id.Data4, &handle, sizeof handle);
+    const auto address = reinterpret_cast<std::uintptr_t>(moduleHandle());
+    std::memcpy(id.Data4, &address, sizeof address);
     return id;
   }
 

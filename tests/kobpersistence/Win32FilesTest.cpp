@@ -63,7 +63,7 @@ std::wstring permissionsOf(const fs::path& file) {
   EXPECT_NE(ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor, SDDL_REVISION_1,
                                                                  DACL_SECURITY_INFORMATION, &text, nullptr),
             FALSE);
-  const std::wstring permissions = text != nullptr ? text : L"";
+  std::wstring permissions = text != nullptr ? text : L"";
   LocalFree(text);
   LocalFree(descriptor);
   return permissions;

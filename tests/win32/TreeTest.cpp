@@ -49,7 +49,7 @@ TEST_F(NativeTreeTest, TopLevelNodesAndTheWayToTheSelectedOneAreUnfolded) {
 }
 
 TEST_F(NativeTreeTest, AClickShowsACellAndFillsItIn) {
-  edit(u"", [this](NativePerson& person) {
+  edit(u"", [](NativePerson& person) {
     EXPECT_TRUE(person.clickTag(u"App\\z"));
     EXPECT_EQ(person.shownText(u"tbTradMessage", 1), L"Hello");
   });
@@ -57,7 +57,7 @@ TEST_F(NativeTreeTest, AClickShowsACellAndFillsItIn) {
 }
 
 TEST_F(NativeTreeTest, AClickOnTheSelectedNodeIsOneMoreClick) {
-  edit(u"App\\z", [this](NativePerson& person) {
+  edit(u"App\\z", [](NativePerson& person) {
     EXPECT_EQ(person.shownText(u"tbTradMessage", 1), L"");
     EXPECT_TRUE(person.clickTag(u"App\\z"));
     EXPECT_EQ(person.shownText(u"tbTradMessage", 1), L"Hello");

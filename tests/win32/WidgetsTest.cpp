@@ -55,7 +55,7 @@ TEST_F(NativeWidgets, WhatAProgramAssignsIsShownWithoutAnEvent) {
   list.add(u"un");
   list.add(u"deux");
   combo.add(u"x");
-  show([this](NativePerson& person) {
+  show([](NativePerson& person) {
     EXPECT_EQ(person.shownText(u"tbSearchString"), L"ab");
     EXPECT_EQ(person.lines(u"List1"), (std::vector<Text>{u"un", u"deux"}));
     // The system chooses no line by itself.

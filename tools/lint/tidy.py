@@ -1,5 +1,6 @@
 # SPDX-FileCopyrightText: The KOBTraduction authors
-"""tidy: clang-tidy with the checks of .clang-tidy, over every file of the release build.
+"""tidy: clang-tidy with the checks of .clang-tidy, over every file of the release build, and those that only the build
+for Windows has where that is configured.
 
 Most of the time goes into the headers of others, so files that are compiled alike are looked at several at once, as
 one source that includes them; where that does not compile (two of them use one name), by halves.
@@ -8,6 +9,7 @@ checks change (stamps in build/tidy).
 """
 
 import concurrent.futures
+import functools
 import hashlib
 import json
 import os
@@ -21,14 +23,33 @@ from layers import includes
 from tree import Outcome, ROOT, cpp_files
 
 PROGRAM = "clang-tidy-14"
-BUILD = ROOT / "build" / "release"
+# A file that several builds have is looked at as the first one compiles it.
+BUILDS = [ROOT / "build" / name for name in ("release", "windows64")]
 STAMPS = ROOT / "build" / "tidy"
 AT_ONCE = 8
-# Of what only tests and measures, a sample takes one group in so many.
+# What the other compiler is told and clang has no word for.
+UNKNOWN_FLAGS = ("-Winvalid-pch", "-fno-keep-inline-dllexport")
+# Of what only tests and measures, or is for another system, a sample takes one group in so many.
 SAMPLED = ("tests/", "bench/", "fuzz/")
 ONE_IN = 4
 # What cannot be said of a file that is included by another.
-ALONE_ONLY = "-misc-definitions-in-headers,-bugprone-suspicious-include"
+ALONE_ONLY = ("-misc-definitions-in-headers", "-bugprone-suspicious-include")
+# Not asked of what is for Windows: a handle there is a pointer by another name, and it is the handle that is constant; and
+# what a type library names stands in no namespace, though it bears the names of the component's classes.
+NOT_CROSS = ("-misc-misplaced-const", "-bugprone-forward-declaration-namespace")
+
+
+@functools.cache
+def cross_flags(compiler):
+    """How clang is told to look at files as a compiler for another system does: its target, and its headers."""
+    target = re.match(r"\w+-w64-mingw32", os.path.basename(compiler))
+    if not target:
+        return []
+    said = subprocess.run([compiler, "-x", "c++", "-E", "-v", os.devnull], capture_output=True, text=True).stderr
+    folders = re.search(r"#include <\.\.\.> search starts here:\n(.*?)End of search list", said, re.S).group(1).split()
+    # Not those of the processor's own instructions: clang has others.
+    return [f"--target={target.group(0)}", *(f"-isystem{folder}" for folder in folders
+                                            if not re.search(r"/lib/gcc/[^/]+/[^/]+/include(-fixed)?$", folder))]
 
 
 def flags_of(entry):
@@ -38,15 +59,24 @@ def flags_of(entry):
     while "-include" in words:
         at = words.index("-include")
         del words[at:at + 2]
-    words = [word for word in words if word != "-Winvalid-pch"]
-    return tuple(words[next(i for i, word in enumerate(words) if word.startswith("-")):words.index("-o")])
+    begin = next(i for i, word in enumerate(words) if word.startswith("-"))
+    flags = [word for word in words[begin:words.index("-o")] if word not in UNKNOWN_FLAGS]
+    return tuple(cross_flags(words[begin - 1]) + flags)
+
+
+def is_cross(flags):
+    return flags[0].startswith("--target=")
 
 
 def commands():
     """Each of our own files that is compiled, and its flags."""
     ours = {str(ROOT / path) for path in cpp_files()}
-    return {entry["file"]: flags_of(entry) for entry in json.loads((BUILD / "compile_commands.json").read_text())
-            if entry["file"] in ours}
+    found = {}
+    for database in (build / "compile_commands.json" for build in BUILDS):
+        for entry in json.loads(database.read_text()) if database.exists() else []:
+            if entry["file"] in ours and entry["file"] not in found:
+                found[entry["file"]] = flags_of(entry)
+    return found
 
 
 def own_headers(path, folders, seen):
@@ -70,10 +100,11 @@ def key(file, flags, checks):
     return digest.hexdigest()
 
 
-def tidy(source, flags, *options):
-    """The findings in a source, and whether it compiled."""
-    said = subprocess.run([PROGRAM, "--quiet", *options, str(source), "--", *flags], cwd=ROOT, capture_output=True,
-                          text=True)
+def tidy(source, flags, without=()):
+    """The findings in a source without some of the checks, and whether it compiled."""
+    left_out = ",".join((*without, *(NOT_CROSS if is_cross(flags) else ())))
+    said = subprocess.run([PROGRAM, "--quiet", f"--checks={left_out}", str(source), "--", *flags], cwd=ROOT,
+                          capture_output=True, text=True)
     found = re.findall(r"^(\S+:\d+):\d+: (?:warning|error): (.*)$", said.stdout, re.M)
     findings = {f"{place.removeprefix(str(ROOT) + '/')}: {what}" for place, what in found}
     if said.returncode and not findings:
@@ -87,7 +118,7 @@ def tidy_group(files, flags):
     with tempfile.TemporaryDirectory(dir=STAMPS.parent) as folder:
         source = pathlib.Path(folder, "group.cpp")
         source.write_text("".join(f'#include "{file}"\n' for file in files))
-        findings, has_compiled = tidy(source, flags, f"--checks={ALONE_ONLY}")
+        findings, has_compiled = tidy(source, flags, ALONE_ONLY)
     if has_compiled:
         return findings
     half = len(files) // 2
@@ -104,7 +135,8 @@ def groups_of(entries):
 
 
 def is_code(group):
-    return not group[0][0].removeprefix(f"{ROOT}/").startswith(SAMPLED)
+    files, flags = group
+    return not is_cross(flags) and not files[0].removeprefix(f"{ROOT}/").startswith(SAMPLED)
 
 
 def sample_of(groups):
@@ -113,21 +145,22 @@ def sample_of(groups):
             [group for group in groups if not is_code(group)][::ONE_IN])
 
 
-def generate_sources():
-    """What the build generates and our files include: the toolkit's meta-objects and forms. The end of what the build
-    said when that failed."""
-    targets = subprocess.run(["ninja", "-C", BUILD, "-t", "targets", "all"], check=True, capture_output=True,
+def generate_sources(build):
+    """What a build generates and our files include: the toolkit's meta-objects and forms, the interface's header. The
+    end of what the build said when that failed."""
+    targets = subprocess.run(["ninja", "-C", build, "-t", "targets", "all"], check=True, capture_output=True,
                              text=True).stdout
-    autogen = re.findall(r"^(\S+_autogen): phony", targets, re.M)
-    if not autogen:
+    generating = re.findall(r"^(\S+_autogen|kob_automation_interface): phony", targets, re.M)
+    if not generating:
         return ""
-    said = subprocess.run(["ninja", "-C", BUILD, *dict.fromkeys(autogen)], capture_output=True, text=True)
-    return said.stdout[-2000:] if said.returncode else ""
+    said = subprocess.run(["ninja", "-C", build, *dict.fromkeys(generating)], capture_output=True, text=True)
+    return f"{build.name}: the tree does not build: {said.stdout[-2000:]}" if said.returncode else ""
 
 
 def run(sample=False):
-    if failure := generate_sources():
-        return Outcome([f"{BUILD.name}: the tree does not build: {failure}"], 0)
+    failures = [failure for build in BUILDS if (build / "build.ninja").exists() and (failure := generate_sources(build))]
+    if failures:
+        return Outcome(failures, 0)
     entries = commands()
     version = subprocess.run([PROGRAM, "--version"], capture_output=True, text=True).stdout
     checks = (ROOT / ".clang-tidy").read_text() + version

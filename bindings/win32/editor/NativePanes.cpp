@@ -121,12 +121,12 @@ bool NativeArea::onStrip(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& re
     case WM_NCHITTEST:
       result = HTCLIENT;
       return true;
-    case WM_GETDLGCODE:
-      result = DLGC_WANTARROWS;
-      return true;
     case WM_SETCURSOR:
       SetCursor(LoadCursorW(nullptr, pointer() == MousePointer::SizeWestEast ? IDC_SIZEWE : IDC_ARROW));
       result = TRUE;
+      return true;
+    case WM_GETDLGCODE:
+      result = DLGC_WANTARROWS;
       return true;
     case WM_LBUTTONDOWN:
       SetCapture(strip_);

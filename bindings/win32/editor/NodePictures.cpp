@@ -99,8 +99,9 @@ std::uint32_t pixelOf(int picture, int x, int y, int size) {
   std::uint32_t sums[3] = {};
   for (int i = 0; i < samples * samples; ++i) {
     const double step = grid / size / samples;
-    const Sample sample = sampleOf(
-        picture, {(x * samples + i % samples + 0.5) * step, (y * samples + i / samples + 0.5) * step});
+    const int column = x * samples + i % samples;
+    const int row = y * samples + i / samples;
+    const Sample sample = sampleOf(picture, {(column + 0.5) * step, (row + 0.5) * step});
     painted += sample.isPainted ? 1 : 0;
     for (int channel = 0; channel < 3; ++channel) {
       sums[channel] += (sample.colour >> (8 * channel)) & 0xff;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "LoadedServer.h"
 
+#include <array>
 #include <thread>
 
 namespace kob::testing {
@@ -48,9 +49,9 @@ TEST_F(ApartmentTest, TheCountOfAThreadOutlivesItsModels) {
 }
 
 TEST_F(ApartmentTest, ManyThreadsWorkBesideEachOther) {
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([] {
+  std::array<std::thread, 4> threads;
+  for (std::thread& thread : threads) {
+    thread = std::thread([] {
       CoInitialize(nullptr);
       for (int round = 0; round < 50; ++round) {
         const ComPtr<_KOBModeleTraduction> model = createModel();

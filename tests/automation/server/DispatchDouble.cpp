@@ -130,6 +130,7 @@ ComPtr<DispatchDouble> makeCollection(const std::vector<ComPtr<DispatchDouble>>&
   });
   if (isEnumerated) {
     std::vector<Variant> items;
+    items.reserve(members.size());
     for (const ComPtr<DispatchDouble>& member : members) {
       items.emplace_back(static_cast<IDispatch*>(member.get()));
     }

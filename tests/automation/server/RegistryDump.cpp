@@ -51,7 +51,7 @@ void append(HKEY parent, const std::wstring& path, std::set<std::string>& lines)
   }
   RegCloseKey(key);
   for (const std::wstring& below : names) {
-    append(parent, path + L"\\" + below, lines);
+    append(parent, std::wstring(path).append(L"\\").append(below), lines);
   }
 }
 

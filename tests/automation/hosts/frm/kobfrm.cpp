@@ -72,7 +72,7 @@ ScriptStyle styleOf(const Job& job) {
 class Session {
  public:
   Session(const Job& job, const std::wstring& library, TestFunctions& functions)
-      : job_(job), style_(styleOf(job)), engine_(style_.language) {
+      : style_(styleOf(job)), engine_(style_.language) {
     std::ifstream stream(std::filesystem::path(wideOf(job.file)), std::ios::binary);
     const std::string bytes(std::istreambuf_iterator<char>(stream), {});
     objects_ = liveForm(*readFormFile(bytes), job.elsewhere);
@@ -143,7 +143,6 @@ class Session {
     return FAILED(memberId(object, u"Index", id)) ? name : name + u"(" + get(object, u"Index").text() + u")";
   }
 
-  const Job& job_;
   ScriptStyle style_;
   ScriptEngine engine_;
   std::unique_ptr<ScriptEngine> tabbed_;

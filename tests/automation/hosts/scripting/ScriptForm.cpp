@@ -107,7 +107,7 @@ class VbWriter {
         for (std::size_t i = 0; i < members.size(); ++i) {
           say(u"Set " + list + u"(" + digits(i) + u") = " + item(members[i]));
         }
-        say(name + u"." + fromUtf8(key) + u" = " + list);
+        say(assignment(name, key, list));
         continue;
       }
       const bool isOwn = style_.collections != ScriptStyle::Collections::Enumerated;
@@ -116,7 +116,7 @@ class VbWriter {
       for (std::size_t i = 0; i < members.size(); ++i) {
         say(list + (isOwn ? u".Put " + digits(i + 1) + u", " : u".Add ") + item(members[i]));
       }
-      say(u"Set " + name + u"." + fromUtf8(key) + u" = " + list);
+      say(u"Set " + assignment(name, key, list));
     }
   }
 
@@ -142,9 +142,7 @@ class VbWriter {
     }
     for (const std::string& key : object.missing) {
       if (style_.raises && has.insert(key).second) {
-        const Text name = fromUtf8(key);
-        body += u"  Public Property Get " + name + u"\n    Err.Raise 438\n  End Property\n" +
-                u"  Public Property Let " + name + u"(value)\n    Err.Raise 438\n  End Property\n";
+        body += raisingMember(fromUtf8(key));
       }
     }
     const auto [found, isNew] = names_.try_emplace(body, u"Kind" + digits(names_.size() + 1));
@@ -152,6 +150,15 @@ class VbWriter {
       classes_ += u"Class " + found->second + u"\n" + body + u"End Class\n";
     }
     return found->second;
+  }
+
+  static Text assignment(const Text& object, const std::string& key, const Text& value) {
+    return object + u"." + fromUtf8(key) + u" = " + value;
+  }
+
+  static Text raisingMember(const Text& name) {
+    return u"  Public Property Get " + name + u"\n    Err.Raise 438\n  End Property\n" +
+           u"  Public Property Let " + name + u"(value)\n    Err.Raise 438\n  End Property\n";
   }
 
   static Text tabMembers(std::size_t count) {
