@@ -3,6 +3,7 @@
 #include <kobpersistence/Container.h>
 #include <kobpersistence/Describing.h>
 #include <kobpersistence/Format.h>
+#include <kobpersistence/LargePages.h>
 #include <kobpersistence/RecordCheck.h>
 #include <kobpersistence/Units.h>
 
@@ -145,6 +146,7 @@ void Container::checkRecords() {
     throw badFile(at::units, u"the texts are longer than the file");
   }
   texts_ = std::make_shared_for_overwrite<char16_t[]>(units + slack / sizeof(char16_t));
+  expectUseOf(texts_.get(), units * sizeof(char16_t));
   RecordCheck check(content_.bytes.get(), records(), texts_.get(), units);
   for (std::uint32_t i = records(); i-- > 0;) {
     const Record found = record(i);

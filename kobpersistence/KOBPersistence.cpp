@@ -3,6 +3,7 @@
 #include <kobpersistence/FileManagerOn.h>
 #include <kobpersistence/Format.h>
 #include <kobpersistence/KOBPersistence.h>
+#include <kobpersistence/LargePages.h>
 #include <kobpersistence/Loading.h>
 #include <kobpersistence/Saving.h>
 
@@ -33,6 +34,7 @@ Content contentOf(ReadableFile& file) {
     throw failure({u"The file is larger than 4 GB, which is the most that can be loaded."});
   }
   Content content{std::make_unique_for_overwrite<Byte[]>(size + slack), 0};
+  expectUseOf(content.bytes.get(), size);
   while (content.size < size) {
     const std::size_t now = file.read(content.bytes.get() + content.size, size - content.size);
     if (now == 0) {
