@@ -33,14 +33,14 @@ class RecordReader final : public PersistStream {
   void setVersion(std::int32_t version) override;
   void WriteValue(const PersistValue& value) override;
   const PersistValue& ReadValue() override;
-  std::shared_ptr<const void> image() const override { return image_; }
+  ImageRef image() const override { return image_; }
 
  private:
   TextView takeText(std::size_t units) noexcept;
 
   FilledObjects& objects_;
   const Container& container_;
-  std::shared_ptr<const void> image_;
+  ImageRef image_;
   const Byte* from_ = nullptr;
   const Byte* end_ = nullptr;
   const char16_t* texts_ = nullptr;

@@ -18,11 +18,11 @@ struct Unwatched {
 /// The container of the model's public lists: items are ordered and numbered from 1. A position
 /// outside 1..count fails with FailureKind::InvalidIndex and changes nothing. A list is an object of its own,
 /// held by reference, because a host may keep one and change it behind its owner's back. Watch::changed() is
-/// called before each change. Used on one thread.
-template <class T, class Watch = Unwatched>
+/// called before each change. Items is what holds them. Used on one thread.
+template <class T, class Watch = Unwatched, class Items = std::vector<T>>
 class OrderedList {
  public:
-  using const_iterator = typename std::vector<T>::const_iterator;
+  using const_iterator = typename Items::const_iterator;
 
   OrderedList() = default;
   OrderedList(const OrderedList& other) = default;
@@ -82,7 +82,7 @@ class OrderedList {
     return static_cast<std::size_t>(position) - 1;
   }
 
-  std::vector<T> items_;
+  Items items_;
 };
 
 }  // namespace kob

@@ -9,29 +9,45 @@
 
 namespace kob {
 
-StoredText::StoredText(TextView text, bool isOwned) noexcept
-    : data_(text.data()), length_(static_cast<std::uint32_t>(text.size())), isOwned_(isOwned) {}
+namespace {
 
-StoredText::StoredText(TextView text) {
+std::uint32_t lengthOf(TextView text) {
   if (text.size() > std::numeric_limits<std::uint32_t>::max()) {
     throw std::bad_alloc();
   }
+  return static_cast<std::uint32_t>(text.size());
+}
+
+}  // namespace
+
+StoredText::StoredText(TextView text) : length_(lengthOf(text)) {
   if (!text.empty()) {
-    auto units = std::make_unique<char16_t[]>(text.size());
+    auto units = std::make_unique_for_overwrite<char16_t[]>(text.size());
     std::copy(text.begin(), text.end(), units.get());
     data_ = units.release();
-    length_ = static_cast<std::uint32_t>(text.size());
     isOwned_ = true;
   }
 }
 
+StoredText StoredText::view(TextView text, ImageRef image) {
+  StoredText stored;
+  stored.length_ = lengthOf(text);
+  if (!text.empty()) {
+    stored.data_ = text.data();
+    stored.image_ = std::move(image);
+  }
+  return stored;
+}
+
 StoredText::StoredText(StoredText&& other) noexcept
     : data_(std::exchange(other.data_, nullptr)),
+      image_(std::move(other.image_)),
       length_(std::exchange(other.length_, 0)),
       isOwned_(std::exchange(other.isOwned_, false)) {}
 
 StoredText& StoredText::operator=(StoredText&& other) noexcept {
   std::swap(data_, other.data_);
+  std::swap(image_, other.image_);
   std::swap(length_, other.length_);
   std::swap(isOwned_, other.isOwned_);
   return *this;

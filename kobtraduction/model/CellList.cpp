@@ -15,6 +15,8 @@ constexpr std::size_t chunkCapacity = 256;
 /// Below this many children a walk is as fast as the index, and costs no memory.
 constexpr std::size_t smallestIndexed = 8;
 constexpr std::size_t smallestTable = 16;
+/// The counts that files tell are not trusted with more.
+constexpr std::size_t mostReserved = 16;
 
 }  // namespace
 
@@ -29,7 +31,8 @@ CellList::~CellList() {
 }
 
 CellList::const_iterator CellList::begin() const noexcept {
-  return {*this, 0};
+  // Room may have been made before the first item came.
+  return {*this, count_ > 0 ? 0 : chunks_.size()};
 }
 
 CellList::const_iterator CellList::end() const noexcept {
@@ -45,8 +48,8 @@ CellList::Place CellList::locate(std::int32_t position) const {
     cursorChunk_ = 0;
     cursorFirst_ = 0;
   }
-  while (wanted - cursorFirst_ >= chunks_[cursorChunk_]->size()) {
-    cursorFirst_ += chunks_[cursorChunk_]->size();
+  while (wanted - cursorFirst_ >= chunks_[cursorChunk_].size()) {
+    cursorFirst_ += static_cast<std::uint32_t>(chunks_[cursorChunk_].size());
     ++cursorChunk_;
   }
   return {cursorChunk_, wanted - cursorFirst_};
@@ -54,7 +57,13 @@ CellList::Place CellList::locate(std::int32_t position) const {
 
 const std::shared_ptr<KOBCellTraduction>& CellList::Item(std::int32_t position) const {
   const Place place = locate(position);
-  return (*chunks_[place.chunk])[place.offset];
+  return chunks_[place.chunk][place.offset];
+}
+
+void CellList::Reserve(std::int32_t count) {
+  if (chunks_.empty() && count > 0) {
+    chunks_.emplace_back().reserve(std::min(static_cast<std::size_t>(count), mostReserved));
+  }
 }
 
 void CellList::Add(std::shared_ptr<KOBCellTraduction> cell) {
@@ -69,7 +78,7 @@ void CellList::Remove(std::int32_t position) {
   const Place place = locate(position);
   treeChanged();
   entriesChanged();
-  Chunk& chunk = *chunks_[place.chunk];
+  Chunk& chunk = chunks_[place.chunk];
   // Kept until the list is whole again: releasing the last reference may run a host's code.
   const std::shared_ptr<KOBCellTraduction> cell = std::move(chunk[place.offset]);
   chunk.erase(chunk.begin() + static_cast<std::ptrdiff_t>(place.offset));
@@ -90,20 +99,20 @@ void CellList::Remove(std::int32_t position) {
 }
 
 CellList::Place CellList::endPlace() const noexcept {
-  return chunks_.empty() ? Place{0, 0} : Place{chunks_.size() - 1, chunks_.back()->size()};
+  return chunks_.empty() ? Place{0, 0} : Place{chunks_.size() - 1, chunks_.back().size()};
 }
 
 void CellList::insert(Place place, std::shared_ptr<KOBCellTraduction> cell) {
   treeChanged();
   entriesChanged();
   if (chunks_.empty()) {
-    chunks_.push_back(std::make_unique<Chunk>());
+    chunks_.emplace_back();
   }
-  if (chunks_[place.chunk]->size() == chunkCapacity) {
+  if (chunks_[place.chunk].size() == chunkCapacity) {
     place = splitAt(place);
   }
   KOBCellTraduction* const added = cell.get();
-  Chunk& chunk = *chunks_[place.chunk];
+  Chunk& chunk = chunks_[place.chunk];
   chunk.insert(chunk.begin() + static_cast<std::ptrdiff_t>(place.offset), std::move(cell));
   ++count_;
   cursorChunk_ = 0;
@@ -126,10 +135,10 @@ CellList::Place CellList::splitAt(Place place) {
   // An insertion at the very end starts a new chunk, so that a list that is only appended to has full chunks.
   const bool isAppend = place.chunk + 1 == chunks_.size() && place.offset == chunkCapacity;
   const std::size_t kept = isAppend ? chunkCapacity : chunkCapacity / 2;
-  Chunk& chunk = *chunks_[place.chunk];
-  auto tail = std::make_unique<Chunk>();
+  Chunk& chunk = chunks_[place.chunk];
+  Chunk tail;
   const auto middle = chunk.begin() + static_cast<std::ptrdiff_t>(kept);
-  tail->assign(std::make_move_iterator(middle), std::make_move_iterator(chunk.end()));
+  tail.assign(std::make_move_iterator(middle), std::make_move_iterator(chunk.end()));
   chunk.erase(middle, chunk.end());
   chunks_.insert(chunks_.begin() + static_cast<std::ptrdiff_t>(place.chunk) + 1, std::move(tail));
   return place.offset > kept || isAppend ? Place{place.chunk + 1, place.offset - kept} : place;
@@ -177,20 +186,22 @@ CellList::Place CellList::upperBound(TextView name) const {
   const auto isGreater = [name](const std::shared_ptr<KOBCellTraduction>& cell) {
     return lessUpper(name, cell->nom());
   };
+  if (count_ == 0) {
+    return endPlace();
+  }
   const auto chunk = std::partition_point(
-      chunks_.begin(), chunks_.end(), [&](const auto& candidate) { return !isGreater(candidate->back()); });
+      chunks_.begin(), chunks_.end(), [&](const auto& candidate) { return !isGreater(candidate.back()); });
   if (chunk == chunks_.end()) {
     return endPlace();
   }
-  const auto item = std::partition_point((*chunk)->begin(), (*chunk)->end(),
+  const auto item = std::partition_point(chunk->begin(), chunk->end(),
                                          [&](const auto& candidate) { return !isGreater(candidate); });
-  return {static_cast<std::size_t>(chunk - chunks_.begin()),
-          static_cast<std::size_t>(item - (*chunk)->begin())};
+  return {static_cast<std::size_t>(chunk - chunks_.begin()), static_cast<std::size_t>(item - chunk->begin())};
 }
 
 CellList::Place CellList::firstGreater(TextView name) const {
   for (std::size_t i = 0; i < chunks_.size(); ++i) {
-    const Chunk& chunk = *chunks_[i];
+    const Chunk& chunk = chunks_[i];
     for (std::size_t j = 0; j < chunk.size(); ++j) {
       if (chunk[j] == nullptr) {
         throw Failure(FailureKind::ObjectNotSet);
@@ -222,18 +233,18 @@ bool CellList::isSorted() const {
 }
 
 bool CellList::keepsOrder(Place place) const {
-  const Chunk& chunk = *chunks_[place.chunk];
+  const Chunk& chunk = chunks_[place.chunk];
   const KOBCellTraduction* before = nullptr;
   if (place.offset > 0) {
     before = chunk[place.offset - 1].get();
   } else if (place.chunk > 0) {
-    before = chunks_[place.chunk - 1]->back().get();
+    before = chunks_[place.chunk - 1].back().get();
   }
   const KOBCellTraduction* after = nullptr;
   if (place.offset + 1 < chunk.size()) {
     after = chunk[place.offset + 1].get();
   } else if (place.chunk + 1 < chunks_.size()) {
-    after = chunks_[place.chunk + 1]->front().get();
+    after = chunks_[place.chunk + 1].front().get();
   }
   const TextView name = chunk[place.offset]->nom();
   return (before == nullptr || !lessUpper(name, before->nom())) &&

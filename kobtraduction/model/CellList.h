@@ -33,6 +33,9 @@ class KOB_EXPORT CellList {
   /// The cell at a position; the reference lives until the list is changed.
   const std::shared_ptr<KOBCellTraduction>& Item(std::int32_t position) const;
 
+  /// Makes room for the first items, when they are few; nothing that can be asked for changes.
+  void Reserve(std::int32_t count);
+
   void Add(std::shared_ptr<KOBCellTraduction> cell);
   /// Inserts in front of the item at `before`.
   void Add(std::shared_ptr<KOBCellTraduction> cell, std::int32_t before);
@@ -81,28 +84,28 @@ class KOB_EXPORT CellList {
   void indexAdd(KOBCellTraduction& cell) const;
   void indexRemove(KOBCellTraduction& cell) const noexcept;
 
-  std::vector<std::unique_ptr<Chunk>> chunks_;
-  std::size_t count_ = 0;
-  std::size_t nothingCount_ = 0;
-  mutable Order order_ = Order::Sorted;
+  std::vector<Chunk> chunks_;
   /// Open addressing by the hash of the upper-cased name; empty until the first look-up of a long list. It
   /// knows no positions, so it survives insertions; equal names are resolved by a walk.
   mutable std::vector<Slot> index_;
-  mutable std::size_t indexed_ = 0;
+  mutable std::uint32_t indexed_ = 0;
+  std::uint32_t count_ = 0;
+  std::uint32_t nothingCount_ = 0;
   /// The chunk that was read last and the position of its first item: reading by position in order is
   /// constant.
-  mutable std::size_t cursorChunk_ = 0;
-  mutable std::size_t cursorFirst_ = 0;
+  mutable std::uint32_t cursorChunk_ = 0;
+  mutable std::uint32_t cursorFirst_ = 0;
+  mutable Order order_ = Order::Sorted;
 };
 
 /// Walks the list in order; invalid once the list is changed.
 class CellList::const_iterator {
  public:
   const std::shared_ptr<KOBCellTraduction>& operator*() const noexcept {
-    return (*list_->chunks_[chunk_])[offset_];
+    return list_->chunks_[chunk_][offset_];
   }
   const_iterator& operator++() noexcept {
-    if (++offset_ == list_->chunks_[chunk_]->size()) {
+    if (++offset_ == list_->chunks_[chunk_].size()) {
       ++chunk_;
       offset_ = 0;
     }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <utility>
 
@@ -18,22 +19,25 @@ class HeldList {
   HeldList() = default;
   /// An object that starts with a list, made of this.
   template <class... Parts>
-  explicit HeldList(std::in_place_t /*start*/, Parts... parts) : inside_(parts...), isInside_(true) {}
+  explicit HeldList(std::in_place_t /*start*/, Parts... parts) : inside_(parts...), state_(isInside) {}
+  HeldList(const HeldList&) = delete;
+  HeldList& operator=(const HeldList&) = delete;
+  ~HeldList() { delete apart(); }
 
   /// The list, or null for none.
   List* get() const noexcept {
-    if (isInside_) {
+    if (is(isInside)) {
       return &inside_;
     }
-    return apart_ != nullptr ? apart_->get() : nullptr;
+    return apart() != nullptr ? apart()->get() : nullptr;
   }
 
   /// The list as a reference; `owner` is the object that this lies in.
   std::shared_ptr<List> share(const std::shared_ptr<const void>& owner) const {
-    if (!isInside_) {
-      return apart_ != nullptr ? *apart_ : nullptr;
+    if (!is(isInside)) {
+      return apart() != nullptr ? *apart() : nullptr;
     }
-    isShared_ = true;
+    state_ |= isShared;
     return {owner, &inside_};
   }
 
@@ -41,46 +45,59 @@ class HeldList {
   void assign(std::shared_ptr<List> list) {
     if (list.get() == &inside_) {
       // A reference to itself would never let go of the object.
-      apart_ = nullptr;
-      isInside_ = true;
+      setApart(nullptr);
+      state_ |= isInside;
       return;
     }
-    apart_ = list != nullptr ? std::make_unique<std::shared_ptr<List>>(std::move(list)) : nullptr;
+    setApart(list != nullptr ? std::make_unique<std::shared_ptr<List>>(std::move(list)) : nullptr);
     clear();
   }
 
   /// The list becomes none.
   void drop() noexcept {
-    apart_ = nullptr;
+    setApart(nullptr);
     clear();
   }
 
   /// The list becomes a new one.
   List& renew(List list) {
-    if (isShared_) {
+    if (is(isShared)) {
       assign(std::make_shared<List>(std::move(list)));
-      return **apart_;
+      return **apart();
     }
-    apart_ = nullptr;
+    setApart(nullptr);
     inside_ = std::move(list);
-    isInside_ = true;
+    state_ |= isInside;
     return inside_;
   }
 
  private:
+  using Apart = std::shared_ptr<List>;
+
+  // In the lowest bits of an address, which are 0.
+  static constexpr std::uintptr_t isInside = 1;
+  static constexpr std::uintptr_t isShared = 2;
+  static_assert(alignof(Apart) > (isInside | isShared));
+
+  bool is(std::uintptr_t flag) const noexcept { return (state_ & flag) != 0; }
+  Apart* apart() const noexcept { return reinterpret_cast<Apart*>(state_ & ~(isInside | isShared)); }
+  void setApart(std::unique_ptr<Apart> list) noexcept {
+    const std::unique_ptr<Apart> old(apart());
+    state_ = reinterpret_cast<std::uintptr_t>(list.release()) | (state_ & (isInside | isShared));
+  }
+
   void clear() noexcept {
-    isInside_ = false;
-    if (!isShared_) {
+    state_ &= ~isInside;
+    if (!is(isShared)) {
       inside_ = List();
     }
   }
 
   /// The list is part of what the object refers to, not of the object.
   mutable List inside_;
-  /// Few objects are ever assigned a list, so the reference to it lies apart.
-  std::unique_ptr<std::shared_ptr<List>> apart_;
-  bool isInside_ = false;
-  mutable bool isShared_ = false;
+  /// Few objects are ever assigned a list, so the reference to it lies apart: its address or 0, and the
+  /// flags.
+  mutable std::uintptr_t state_ = 0;
 };
 
 }  // namespace kob

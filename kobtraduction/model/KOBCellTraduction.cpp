@@ -86,8 +86,11 @@ KOBCellTraduction::Rare& KOBCellTraduction::rare() const {
 }
 
 void KOBCellTraduction::setnom(TextView name) {
-  StoredText newName(name);
-  if (isAliasNom_ && name != nom()) {
+  rename(StoredText(name));
+}
+
+void KOBCellTraduction::rename(StoredText newName) {
+  if (isAliasNom_ && newName.text() != nom()) {
     rare();
   }
   const auto eachHolder = [this](auto tell) {
@@ -108,6 +111,19 @@ void KOBCellTraduction::setnom(TextView name) {
     isAliasNom_ = false;
   }
   eachHolder([this](CellList& list) { list.afterRename(*this); });
+}
+
+void KOBCellTraduction::setIndicators(std::int32_t left, std::int32_t width) {
+  const auto smallLeft = static_cast<std::int8_t>(left);
+  const auto smallWidth = static_cast<std::int8_t>(width);
+  const bool areRare = smallLeft != left || smallWidth != width;
+  if (areRare) {
+    rare().left = left;
+    rare().width = width;
+  }
+  left_ = smallLeft;
+  width_ = smallWidth;
+  hasRareIndicators_ = areRare;
 }
 
 TextView KOBCellTraduction::Alias() const noexcept {

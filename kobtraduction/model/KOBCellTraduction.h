@@ -2,6 +2,7 @@
 #pragma once
 
 #include <kobtraduction/base/Export.h>
+#include <kobtraduction/base/OneInside.h>
 #include <kobtraduction/base/OrderedList.h>
 #include <kobtraduction/base/StoredText.h>
 #include <kobtraduction/base/Text.h>
@@ -22,7 +23,8 @@ class HostObject;
 class KOBModeleTraduction;
 using HostRef = std::shared_ptr<HostObject>;
 
-using EntryList = OrderedList<std::shared_ptr<KOBTraductionObj>, WatchedEntries>;
+using EntryList = OrderedList<std::shared_ptr<KOBTraductionObj>, WatchedEntries,
+                              OneInside<std::shared_ptr<KOBTraductionObj>>>;
 using FactorList = OrderedList<Factor>;
 /// What a search has found, in the order found.
 using CellResults = OrderedList<std::shared_ptr<KOBCellTraduction>>;
@@ -76,10 +78,10 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   void setColWidth(std::shared_ptr<FactorList> factors);
 
   /// Whether the control can be positioned, not where: harvesting sets 1 (left greater than 0) or -1.
-  std::int32_t m_left() const noexcept { return left_; }
-  void setm_left(std::int32_t indicator) noexcept { left_ = indicator; }
-  std::int32_t m_width() const noexcept { return width_; }
-  void setm_width(std::int32_t indicator) noexcept { width_ = indicator; }
+  std::int32_t m_left() const noexcept { return hasRareIndicators_ ? rare_->left : left_; }
+  void setm_left(std::int32_t indicator) { setIndicators(indicator, m_width()); }
+  std::int32_t m_width() const noexcept { return hasRareIndicators_ ? rare_->width : width_; }
+  void setm_width(std::int32_t indicator) { setIndicators(m_left(), indicator); }
 
   /// Assigning a new kind discards what belonged to the old one; the current kind, or a value that is no
   /// kind, is ignored.
@@ -172,6 +174,8 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
 
   /// Makes a leaf a node; whether `name` is free among the children, else -2 in `erreur`.
   bool admits(TextView name, std::int32_t* erreur);
+  void setIndicators(std::int32_t left, std::int32_t width);
+  void rename(StoredText name);
   void clearTranslations() noexcept;
   void dropFactors() noexcept;
   /// What few cells have.
@@ -180,6 +184,8 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
     std::shared_ptr<FactorList> colLeft;
     std::shared_ptr<FactorList> colWidth;
     std::vector<CellList*> moreHolders;
+    std::int32_t left = 0;
+    std::int32_t width = 0;
   };
   Rare& rare() const;
   /// Makes what is only a number so far.
@@ -189,6 +195,7 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   /// What a record holds of a node, and of a control cell.
   void writeChildren(PersistStream& stream) const;
   void writeControl(PersistStream& stream) const;
+  void readName(PersistStream& stream);
   void readControl(PersistStream& stream);
   void readFactors(PersistStream& stream);
   /// The children, or ObjectNotSet.
@@ -209,17 +216,19 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   /// The lists that hold this cell, once for each time, to be told of a new name; nearly always one, the
   /// others are in rare_.
   CellList* holder_ = nullptr;
-  std::int32_t left_ = 0;
-  std::int32_t width_ = 0;
   /// When not negative: what the cell was given with its kind is as it was then, and not made yet, for so
   /// many languages: the entry of a message without texts, or both factor lists of a control, all 1.
   mutable std::int32_t untouched_;
-  std::int8_t typeCell_;
-  std::int8_t typeFeuille_;
-  bool isAliasNom_ = false;
-  bool contexte_ = false;
+  std::int8_t typeCell_ : 4;
+  std::int8_t typeFeuille_ : 4;
+  /// What harvesting sets; other indicators are in rare_, then both.
+  std::int8_t left_ = 0;
+  std::int8_t width_ = 0;
+  bool hasRareIndicators_ : 1 = false;
+  bool isAliasNom_ : 1 = false;
+  bool contexte_ : 1 = false;
   /// A walk is inside this cell.
-  bool isWalked_ = false;
+  bool isWalked_ : 1 = false;
 };
 
 }  // namespace kob

@@ -3,23 +3,42 @@
 #include <kobtraduction/component/Global_Util.h>
 #include <kobtraduction/model/KOBTraductionObj.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace kob {
 
-KOBTraductionObj::KOBTraductionObj() : KOBTraductionObj(Global_Util::NbLangues()) {}
+namespace {
 
-KOBTraductionObj::KOBTraductionObj(std::int32_t languages) : colTraduction_(std::in_place, languages) {}
+/// Nearly all entries of a model bear one of these names.
+const StoredText usualNames[] = {StoredText(), StoredText::view(u"Caption"), StoredText::view(u"ToolTip")};
 
-void KOBTraductionObj::setnom(TextView name) {
-  // Nearly all entries of a model bear one of these names.
-  for (const TextView usual : {TextView(u"Caption"), TextView(u"ToolTip")}) {
-    if (name == usual) {
-      nom_ = StoredText::view(usual);
-      return;
+}  // namespace
+
+KOBTraductionObj::Name KOBTraductionObj::makeName(TextView name) {
+  for (const StoredText& usual : usualNames) {
+    if (sameUnits(name, usual.text())) {
+      return Name(&usual);
     }
   }
-  nom_ = StoredText(name);
+  return Name(new StoredText(name));
+}
+
+void KOBTraductionObj::ReleaseName::operator()(const StoredText* name) const noexcept {
+  const bool isUsual = std::any_of(std::begin(usualNames), std::end(usualNames),
+                                   [name](const StoredText& usual) { return name == &usual; });
+  if (!isUsual) {
+    delete name;
+  }
+}
+
+KOBTraductionObj::KOBTraductionObj() : KOBTraductionObj(Global_Util::NbLangues()) {}
+
+KOBTraductionObj::KOBTraductionObj(std::int32_t languages)
+    : colTraduction_(std::in_place, languages), nom_(makeName({})) {}
+
+void KOBTraductionObj::setnom(TextView name) {
+  nom_ = makeName(name);
 }
 
 void KOBTraductionObj::ChangeTraduction(TextView Traduction, std::int32_t Index) {

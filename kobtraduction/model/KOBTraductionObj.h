@@ -39,7 +39,7 @@ class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream,
 
   /// The translation's name within a control cell; "" for the entry of a message cell.
   /// The view lives until the name is changed.
-  TextView nom() const noexcept { return nom_.text(); }
+  TextView nom() const noexcept { return nom_->text(); }
   void setnom(TextView name);
 
   /// Replaces the text of language `Index`; an Index outside 1..language count is ignored.
@@ -83,8 +83,15 @@ class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream,
   bool IsLangueEmpty(std::int16_t index) const;
 
  private:
+  struct ReleaseName {
+    void operator()(const StoredText* name) const noexcept;
+  };
+  using Name = std::unique_ptr<const StoredText, ReleaseName>;
+  /// A usual name's is shared by all entries.
+  static Name makeName(TextView name);
+
   HeldList<TextList> colTraduction_;
-  StoredText nom_;
+  Name nom_;
 };
 
 }  // namespace kob

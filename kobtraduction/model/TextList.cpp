@@ -4,16 +4,12 @@
 
 #include <algorithm>
 #include <functional>
-#include <limits>
 #include <new>
 #include <utility>
 
 namespace kob {
 
 namespace {
-
-/// What the length of a run can be told in.
-constexpr std::size_t longestRun = std::numeric_limits<std::int32_t>::max();
 
 void tellIfFirst(std::uint32_t item) noexcept {
   if (item == 0) {
@@ -43,9 +39,13 @@ TextList& TextList::operator=(TextList&& other) noexcept {
 void TextList::swap(TextList& other) noexcept {
   std::swap(units_, other.units_);
   std::swap(count_, other.count_);
-  std::swap(capacity_, other.capacity_);
-  std::swap(fewEnds_, other.fewEnds_);
-  std::swap(moreEnds_, other.moreEnds_);
+  const std::uint32_t capacity = capacity_;
+  capacity_ = other.capacity_;
+  other.capacity_ = capacity;
+  const std::uint32_t hasMoreEnds = hasMoreEnds_;
+  hasMoreEnds_ = other.hasMoreEnds_;
+  other.hasMoreEnds_ = hasMoreEnds;
+  std::swap(ends_, other.ends_);
   std::swap(image_, other.image_);
 }
 
@@ -53,35 +53,43 @@ TextList::~TextList() {
   if (capacity_ > 0) {
     delete[] units_;
   }
+  if (hasMoreEnds_) {
+    delete ends_.more;
+  }
+}
+
+void TextList::setMoreEnds(std::unique_ptr<Ends> ends) noexcept {
+  ends_.more = ends.release();
+  hasMoreEnds_ = 1;
 }
 
 void TextList::makeEnds() {
   if (units_ == nullptr) {
-    if (moreEnds_ != nullptr) {
-      moreEnds_->assign(count_, 0);
+    if (hasMoreEnds_) {
+      ends_.more->assign(count_, 0);
     } else if (count_ <= fewTexts) {
-      std::fill(std::begin(fewEnds_), std::end(fewEnds_), 0);
+      std::fill(std::begin(ends_.few), std::end(ends_.few), 0);
     } else {
-      moreEnds_ = std::make_unique<Ends>(count_, 0);
+      setMoreEnds(std::make_unique<Ends>(count_, 0));
     }
   }
-  if (moreEnds_ == nullptr && count_ == fewTexts) {
+  if (!hasMoreEnds_ && count_ == fewTexts) {
     auto ends = std::make_unique<Ends>();
     ends->reserve(fewTexts * 2);
-    ends->assign(std::begin(fewEnds_), std::end(fewEnds_));
-    moreEnds_ = std::move(ends);
+    ends->assign(std::begin(ends_.few), std::end(ends_.few));
+    setMoreEnds(std::move(ends));
   }
-  if (moreEnds_ != nullptr && moreEnds_->size() == moreEnds_->capacity()) {
-    moreEnds_->reserve(moreEnds_->size() * 2 + fewTexts);
+  if (hasMoreEnds_ && ends_.more->size() == ends_.more->capacity()) {
+    ends_.more->reserve(ends_.more->size() * 2 + fewTexts);
   }
 }
 
 void TextList::insertEnd(std::uint32_t item, std::uint32_t end) noexcept {
-  if (moreEnds_ != nullptr) {
-    moreEnds_->insert(moreEnds_->begin() + static_cast<std::ptrdiff_t>(item), end);
+  if (hasMoreEnds_) {
+    ends_.more->insert(ends_.more->begin() + static_cast<std::ptrdiff_t>(item), end);
   } else {
-    std::copy_backward(fewEnds_ + item, fewEnds_ + count_, fewEnds_ + count_ + 1);
-    fewEnds_[item] = end;
+    std::copy_backward(ends_.few + item, ends_.few + count_, ends_.few + count_ + 1);
+    ends_.few[item] = end;
   }
   ++count_;
 }
@@ -121,8 +129,8 @@ void TextList::splice(std::uint32_t first, std::uint32_t last, TextView text) {
     delete[] units_;
   }
   units_ = own.release();
-  capacity_ = static_cast<std::uint32_t>(capacity);
-  image_ = nullptr;
+  setCapacity(capacity);
+  image_ = {};
 }
 
 void TextList::Add(TextView text) {
@@ -164,10 +172,10 @@ void TextList::Remove(std::int32_t position) {
       splice(start(item), end(item), {});
     }
     moveEnds(item + 1, 0 - size);
-    if (moreEnds_ != nullptr) {
-      moreEnds_->erase(moreEnds_->begin() + static_cast<std::ptrdiff_t>(item));
+    if (hasMoreEnds_) {
+      ends_.more->erase(ends_.more->begin() + static_cast<std::ptrdiff_t>(item));
     } else {
-      std::copy(fewEnds_ + item + 1, fewEnds_ + count_, fewEnds_ + item);
+      std::copy(ends_.few + item + 1, ends_.few + count_, ends_.few + item);
     }
   }
   --count_;

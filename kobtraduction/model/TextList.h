@@ -3,11 +3,14 @@
 
 #include <kobtraduction/base/Export.h>
 #include <kobtraduction/base/Failure.h>
+#include <kobtraduction/base/ImageRef.h>
 #include <kobtraduction/base/Text.h>
 
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace kob {
@@ -54,7 +57,7 @@ class KOB_EXPORT TextList {
 
   /// Keeps `image` alive as long as texts of the list lie in it; views into it may then be added. One image
   /// per list.
-  void setImage(std::shared_ptr<const void> image) noexcept { image_ = std::move(image); }
+  void setImage(ImageRef image) noexcept { image_ = std::move(image); }
   /// Appends a text that lies in the list's image or is static. It stays where it is when it begins where the
   /// texts before it end; one that lies elsewhere turns the list's texts into its own.
   void AddView(TextView text);
@@ -67,6 +70,8 @@ class KOB_EXPORT TextList {
  private:
   void swap(TextList& other) noexcept;
 
+  /// What the length of a run can be told in.
+  static constexpr std::uint32_t longestRun = std::numeric_limits<std::int32_t>::max();
   /// More languages are rare; the ends of their texts lie apart.
   static constexpr std::uint32_t fewTexts = 6;
   using Ends = std::vector<std::uint32_t>;
@@ -77,14 +82,17 @@ class KOB_EXPORT TextList {
     }
     return static_cast<std::uint32_t>(position) - 1;
   }
-  const std::uint32_t* ends() const noexcept { return moreEnds_ != nullptr ? moreEnds_->data() : fewEnds_; }
-  std::uint32_t* ends() noexcept { return moreEnds_ != nullptr ? moreEnds_->data() : fewEnds_; }
+  const std::uint32_t* ends() const noexcept { return hasMoreEnds_ ? ends_.more->data() : ends_.few; }
+  std::uint32_t* ends() noexcept { return hasMoreEnds_ ? ends_.more->data() : ends_.few; }
   std::uint32_t end(std::uint32_t item) const noexcept { return ends()[item]; }
   std::uint32_t start(std::uint32_t item) const noexcept { return item > 0 ? ends()[item - 1] : 0; }
+  void setCapacity(std::size_t units) noexcept { capacity_ = static_cast<std::uint32_t>(units) & longestRun; }
   std::uint32_t length() const noexcept { return units_ != nullptr ? start(count_) : 0; }
 
   /// Gives every text an end, when only "" was there so far, and has room for one more.
   void makeEnds();
+  /// From now on the ends lie apart.
+  void setMoreEnds(std::unique_ptr<Ends> ends) noexcept;
   /// Into the room that makeEnds made.
   void insertEnd(std::uint32_t item, std::uint32_t end) noexcept;
   /// Puts `text` in the place of the units first..last of the run; the ends are the caller's.
@@ -98,11 +106,14 @@ class KOB_EXPORT TextList {
   const char16_t* units_ = nullptr;
   std::uint32_t count_ = 0;
   /// How many units the list's own run can take; 0 when the run is not the list's own.
-  std::uint32_t capacity_ = 0;
+  std::uint32_t capacity_ : 31 = 0;
+  std::uint32_t hasMoreEnds_ : 1 = 0;
   /// Where each text ends in the run.
-  std::uint32_t fewEnds_[fewTexts] = {};
-  std::unique_ptr<Ends> moreEnds_;
-  std::shared_ptr<const void> image_;
+  union {
+    std::uint32_t few[fewTexts];
+    Ends* more;
+  } ends_ = {};
+  ImageRef image_;
 };
 
 }  // namespace kob

@@ -3,7 +3,6 @@
 #include <kobtraduction/model/TextList.h>
 
 #include <algorithm>
-#include <limits>
 #include <new>
 
 namespace kob {
@@ -11,7 +10,7 @@ namespace kob {
 template <class TextFor>
 void TextList::makeFilledRun(std::size_t growth, TextFor textFor) {
   const std::size_t total = length() + growth;
-  if (total > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max())) {
+  if (total > longestRun) {
     throw std::bad_alloc();
   }
   auto run = std::make_unique_for_overwrite<char16_t[]>(total);
@@ -38,8 +37,8 @@ void TextList::makeFilledRun(std::size_t growth, TextFor textFor) {
     delete[] units_;
   }
   units_ = run.release();
-  capacity_ = static_cast<std::uint32_t>(total);
-  image_ = nullptr;
+  setCapacity(total);
+  image_ = {};
 }
 
 bool TextList::FillGaps(const TextList& source, std::int32_t first, std::int32_t last) {

@@ -28,8 +28,8 @@ void PersistStream::WriteKept(const KeptObject& object) {
   WriteValue(PersistValue::object(object.share()));
 }
 
-std::shared_ptr<const void> PersistStream::image() const {
-  return nullptr;
+ImageRef PersistStream::image() const {
+  return {};
 }
 
 IKOBVBPersistStream::~IKOBVBPersistStream() = default;

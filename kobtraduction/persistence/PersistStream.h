@@ -2,6 +2,7 @@
 #pragma once
 
 #include <kobtraduction/base/Export.h>
+#include <kobtraduction/base/ImageRef.h>
 #include <kobtraduction/base/OrderedList.h>
 #include <kobtraduction/base/Text.h>
 #include <kobtraduction/persistence/PersistValue.h>
@@ -63,8 +64,8 @@ class KOB_EXPORT PersistStream {
 
   /// What keeps the characters of the texts that were read alive: an object may hold on to it and go on using
   /// the views instead of copying them. Texts read one after the other should lie one behind the other then:
-  /// an entry keeps its texts as one run. Null (as here) when texts live no longer than the call says.
-  virtual std::shared_ptr<const void> image() const;
+  /// an entry keeps its texts as one run. None (as here) when texts live no longer than the call says.
+  virtual ImageRef image() const;
 };
 
 /// The class identifiers that may occur in an object's graph.

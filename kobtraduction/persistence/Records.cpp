@@ -201,14 +201,17 @@ void KOBCellTraduction::writeControl(PersistStream& stream) const {
 void KOBCellTraduction::read(PersistStream& stream) {
   guarded([&] {
     const std::int32_t version = stream.Version();
-    readText(stream, [this](TextView text) { setnom(text); });
+    readName(stream);
     readText(stream, [this](TextView text) { setAlias(text); });
     setTypeCell(stream.ReadValue().toLong());
     if (TypeCell() == 1) {
       setColCell(std::make_shared<CellList>());
-      for (std::int32_t left = stream.ReadValue().toLong(); left > 0; --left) {
+      const std::int32_t count = stream.ReadValue().toLong();
+      ColCell()->Reserve(count);
+      const std::shared_ptr<KOBCellTraduction> self = shared_from_this();
+      for (std::int32_t left = count; left > 0; --left) {
         std::shared_ptr<KOBCellTraduction> cell = readObject<KOBCellTraduction>(stream);
-        mustBeSet(cell).setparentcell(shared_from_this());
+        mustBeSet(cell).setparentcell(self);
         ColCell()->Add(std::move(cell));
       }
     }
@@ -222,6 +225,16 @@ void KOBCellTraduction::read(PersistStream& stream) {
       setContexte(stream.ReadValue().toBoolean());
     }
   });
+}
+
+void KOBCellTraduction::readName(PersistStream& stream) {
+  ImageRef image = stream.image();
+  const PersistValue& value = stream.ReadValue();
+  if (value.type() == PersistType::String && image) {
+    rename(StoredText::view(value.text(), std::move(image)));
+  } else {
+    setnom(value.toText());
+  }
 }
 
 void KOBCellTraduction::readControl(PersistStream& stream) {
@@ -293,8 +306,8 @@ void KOBTraductionObj::read(PersistStream& stream) {
     stream.Version();
     readText(stream, [this](TextView text) { setnom(text); });
     TextList& list = colTraduction_.renew(TextList());
-    std::shared_ptr<const void> image = stream.image();
-    const bool hasImage = image != nullptr;
+    ImageRef image = stream.image();
+    const bool hasImage = static_cast<bool>(image);
     list.setImage(std::move(image));
     for (std::int32_t left = Global_Util::NbLangues(); left > 0; --left) {
       const PersistValue& value = stream.ReadValue();

@@ -1,29 +1,46 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include <gtest/gtest.h>
+#include <kobtraduction/base/OneInside.h>
 #include <kobtraduction/base/OrderedList.h>
 
 #include <cstdint>
 #include <limits>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kob {
 namespace {
 
-using Words = OrderedList<std::string>;
+struct InAVector {
+  template <class T>
+  using List = OrderedList<T>;
+};
+struct WithOneInside {
+  template <class T>
+  using List = OrderedList<T, Unwatched, OneInside<T>>;
+};
 
-std::vector<std::string> contents(const Words& list) {
-  return {list.begin(), list.end()};
-}
+/// Whatever holds the items.
+template <class Kind>
+class OrderedLists : public testing::Test {
+ protected:
+  using Words = typename Kind::template List<std::string>;
+  using References = typename Kind::template List<std::shared_ptr<int>>;
 
-Words abc() {
-  Words list;
-  list.Add("a");
-  list.Add("b");
-  list.Add("c");
-  return list;
-}
+  static std::vector<std::string> contents(const Words& list) { return {list.begin(), list.end()}; }
+
+  static Words abc() {
+    Words list;
+    list.Add("a");
+    list.Add("b");
+    list.Add("c");
+    return list;
+  }
+};
+using Kinds = testing::Types<InAVector, WithOneInside>;
+TYPED_TEST_SUITE(OrderedLists, Kinds);
 
 template <class Action>
 void expectInvalidIndex(Action&& action) {
@@ -35,70 +52,70 @@ void expectInvalidIndex(Action&& action) {
   }
 }
 
-TEST(OrderedList, StartsEmpty) {
-  const Words list;
+TYPED_TEST(OrderedLists, StartsEmpty) {
+  const typename TestFixture::Words list;
   EXPECT_EQ(list.Count(), 0);
   EXPECT_TRUE(list.begin() == list.end());
 }
 
-TEST(OrderedList, NumbersItsItemsFromOneInOrder) {
-  const Words list = abc();
+TYPED_TEST(OrderedLists, NumbersItsItemsFromOneInOrder) {
+  const typename TestFixture::Words list = this->abc();
   ASSERT_EQ(list.Count(), 3);
   EXPECT_EQ(list.Item(1), "a");
   EXPECT_EQ(list.Item(2), "b");
   EXPECT_EQ(list.Item(3), "c");
 }
 
-TEST(OrderedList, InsertsInFrontOfAPosition) {
-  Words list = abc();
+TYPED_TEST(OrderedLists, InsertsInFrontOfAPosition) {
+  typename TestFixture::Words list = this->abc();
   list.Add("x", 1);
   list.Add("y", 4);
-  EXPECT_EQ(contents(list), (std::vector<std::string>{"x", "a", "b", "y", "c"}));
+  EXPECT_EQ(this->contents(list), (std::vector<std::string>{"x", "a", "b", "y", "c"}));
 }
 
-TEST(OrderedList, RemovesByPositionAndClosesTheGap) {
-  Words list = abc();
+TYPED_TEST(OrderedLists, RemovesByPositionAndClosesTheGap) {
+  typename TestFixture::Words list = this->abc();
   list.Remove(2);
-  EXPECT_EQ(contents(list), (std::vector<std::string>{"a", "c"}));
+  EXPECT_EQ(this->contents(list), (std::vector<std::string>{"a", "c"}));
   list.Remove(2);
   list.Remove(1);
   EXPECT_EQ(list.Count(), 0);
 }
 
-TEST(OrderedList, ReadingOutsideItsItemsIsAnInvalidIndex) {
-  const Words list = abc();
+TYPED_TEST(OrderedLists, ReadingOutsideItsItemsIsAnInvalidIndex) {
+  const typename TestFixture::Words list = this->abc();
   for (const std::int32_t position :
        {0, 4, -1, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
     expectInvalidIndex([&] { static_cast<void>(list.Item(position)); });
   }
 }
 
-TEST(OrderedList, InsertingInFrontOfNoItemIsAnInvalidIndexAndChangesNothing) {
-  Words list = abc();
+TYPED_TEST(OrderedLists, InsertingInFrontOfNoItemIsAnInvalidIndexAndChangesNothing) {
+  typename TestFixture::Words list = this->abc();
   for (const std::int32_t position : {0, 4, -1}) {
     expectInvalidIndex([&] { list.Add("x", position); });
   }
-  EXPECT_EQ(contents(list), contents(abc()));
+  EXPECT_EQ(this->contents(list), this->contents(this->abc()));
 }
 
-TEST(OrderedList, RemovingNoItemIsAnInvalidIndexAndChangesNothing) {
-  Words list = abc();
+TYPED_TEST(OrderedLists, RemovingNoItemIsAnInvalidIndexAndChangesNothing) {
+  typename TestFixture::Words list = this->abc();
   for (const std::int32_t position : {0, 4, -1}) {
     expectInvalidIndex([&] { list.Remove(position); });
   }
-  EXPECT_EQ(contents(list), contents(abc()));
+  EXPECT_EQ(this->contents(list), this->contents(this->abc()));
 }
 
-TEST(OrderedList, AnEmptyListHasNoPositionAtAll) {
-  Words list;
+TYPED_TEST(OrderedLists, AnEmptyListHasNoPositionAtAll) {
+  typename TestFixture::Words list;
   expectInvalidIndex([&] { static_cast<void>(list.Item(1)); });
   expectInvalidIndex([&] { list.Add("x", 1); });
   expectInvalidIndex([&] { list.Remove(1); });
   EXPECT_EQ(list.Count(), 0);
 }
 
-TEST(OrderedList, AnItemOfTheListCanBeAddedToItAgain) {
-  Words list = abc();
+TYPED_TEST(OrderedLists, AnItemOfTheListCanBeAddedToItAgain) {
+  typename TestFixture::Words list = this->abc();
   for (int i = 0; i < 40; ++i) {
     list.Add(list.Item(1));
     list.Add(list.Item(2), 1);
@@ -108,8 +125,8 @@ TEST(OrderedList, AnItemOfTheListCanBeAddedToItAgain) {
   EXPECT_EQ(list.Item(43), "a");
 }
 
-TEST(OrderedList, LetsGoOfWhatIsRemoved) {
-  OrderedList<std::shared_ptr<int>> list;
+TYPED_TEST(OrderedLists, LetsGoOfWhatIsRemoved) {
+  typename TestFixture::References list;
   const auto item = std::make_shared<int>(5);
   list.Add(item);
   list.Add(nullptr);
@@ -117,6 +134,55 @@ TEST(OrderedList, LetsGoOfWhatIsRemoved) {
   EXPECT_EQ(list.Item(2), nullptr);
   list.Remove(1);
   EXPECT_EQ(item.use_count(), 1);
+}
+
+TYPED_TEST(OrderedLists, ACopyHasItemsOfItsOwn) {
+  for (const int count : {0, 1, 2}) {
+    typename TestFixture::References list;
+    const auto item = std::make_shared<int>(5);
+    for (int i = 0; i < count; ++i) {
+      list.Add(item);
+    }
+    {
+      typename TestFixture::References copy(list);
+      EXPECT_EQ(item.use_count(), 1 + 2 * count);
+      copy.Add(item);
+      EXPECT_EQ(list.Count(), count);
+      list = copy;
+      EXPECT_EQ(copy.Count(), count + 1);
+    }
+    EXPECT_EQ(item.use_count(), 2 + count);
+    EXPECT_EQ(list.Count(), count + 1);
+  }
+}
+
+TYPED_TEST(OrderedLists, AMovedListTakesItsItemsAlong) {
+  for (const int count : {0, 1, 2}) {
+    for (const int before : {0, 1, 2}) {
+      typename TestFixture::Words list;
+      typename TestFixture::Words other;
+      for (int i = 0; i < count; ++i) {
+        list.Add("an item that is too long to lie in the string itself");
+      }
+      for (int i = 0; i < before; ++i) {
+        other.Add("b");
+      }
+      other = std::move(list);
+      ASSERT_EQ(other.Count(), count);
+      const typename TestFixture::Words made(std::move(other));
+      ASSERT_EQ(made.Count(), count);
+      for (int i = 1; i <= count; ++i) {
+        EXPECT_EQ(made.Item(i), "an item that is too long to lie in the string itself");
+      }
+    }
+  }
+}
+
+TYPED_TEST(OrderedLists, MakesRoomWithoutBeingChanged) {
+  typename TestFixture::Words list = this->abc();
+  list.Reserve(100);
+  list.Reserve(-1);
+  EXPECT_EQ(this->contents(list), this->contents(this->abc()));
 }
 
 }  // namespace

@@ -33,7 +33,9 @@ class ScriptedStream : public PersistStream {
   void setVersion(std::int32_t version) override;
   void WriteValue(const PersistValue& value) override;
   const PersistValue& ReadValue() override;
-  std::shared_ptr<const void> image() const override { return kept_; }
+  ImageRef image() const override { return kept_; }
+  /// What image() keeps alive.
+  std::weak_ptr<const void> kept() const { return kept_; }
 
  private:
   void step();

@@ -224,5 +224,18 @@ TEST_F(CellKinds, PlainFieldsReadAsAssigned) {
   EXPECT_TRUE(cell->Contexte());
 }
 
+TEST_F(CellKinds, AnIndicatorKeepsAnyNumberAndTheOtherOne) {
+  const CellRef cell = KOBCellTraduction::create();
+  constexpr std::int32_t numbers[] = {1, 127, 128, -129, 70000, std::numeric_limits<std::int32_t>::min(), -1};
+  for (const std::int32_t left : numbers) {
+    cell->setm_left(left);
+    for (const std::int32_t width : numbers) {
+      cell->setm_width(width);
+      EXPECT_EQ(cell->m_left(), left) << width;
+      EXPECT_EQ(cell->m_width(), width) << left;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace kob::test

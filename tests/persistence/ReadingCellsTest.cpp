@@ -65,6 +65,45 @@ TEST_F(ReadingCells, ANodeTakesItsChildrenInOrderAndBecomesTheirParent) {
   EXPECT_EQ(a->parentcell(), node);
 }
 
+TEST_F(ReadingCells, ANodeWhoseFirstChildFailsIsEmptyAndTakesOthers) {
+  const CellRef node = KOBCellTraduction::create();
+  EXPECT_FALSE(reads(*node, 2, {aText(u"n"), aText(u""), aLong(1), aLong(3), anObject(nullptr)}));
+  const std::shared_ptr<CellList> children = node->ColCell();
+  EXPECT_EQ(children->Count(), 0);
+  EXPECT_TRUE(children->begin() == children->end());
+  EXPECT_EQ(node->GetCell(u"x"), nullptr);
+  const CellRef b = node->AddNoeuds(u"b");
+  const CellRef a = node->AddNoeuds(u"a");
+  EXPECT_EQ(children->Item(1), a);
+  EXPECT_EQ(children->Item(2), b);
+}
+
+TEST_F(ReadingCells, ANameOfAnImageStaysWhereItIsUntilTheCellIsRenamed) {
+  const CellRef cell = KOBCellTraduction::create();
+  std::weak_ptr<const void> image;
+  {
+    ScriptedStream stream({2, cellStart(u"a name that is long enough", 0) + Values{aBoolean(false)}});
+    stream.keepTexts();
+    image = stream.kept();
+    cell->read(stream);
+  }
+  EXPECT_FALSE(image.expired());
+  EXPECT_EQ(cell->nom(), u"a name that is long enough");
+  cell->setnom(u"another one");
+  EXPECT_TRUE(image.expired()) << "nothing else keeps it";
+  EXPECT_EQ(cell->nom(), u"another one");
+}
+
+TEST_F(ReadingCells, ANumberInThePlaceOfANameOfAnImageIsKeptAsText) {
+  const CellRef cell = KOBCellTraduction::create();
+  {
+    ScriptedStream stream({2, {aLong(12), aText(u""), aLong(2), aLong(0), aBoolean(false)}});
+    stream.keepTexts();
+    cell->read(stream);
+  }
+  EXPECT_EQ(cell->nom(), u"12");
+}
+
 TEST_F(ReadingCells, ChildrenThatWereReadAreFound) {
   const CellRef child = emptyCell(u"Enfant");
   const CellRef node =

@@ -172,7 +172,7 @@ TEST_F(ReadingEntries, TextsOfAnImageStayWhereTheyAreAndOutliveTheStream) {
     ScriptedStream stream(
         {1, {aText(u"Caption"), aText(u"long enough"), aText(u"to be"), aText(u"elsewhere")}});
     stream.keepTexts();
-    image = stream.image();
+    image = stream.kept();
     entry->read(stream);
   }
   EXPECT_FALSE(image.expired());
