@@ -3,6 +3,7 @@
 #include <kobpersistence/Format.h>
 #include <kobpersistence/RecordReader.h>
 
+#include <algorithm>
 #include <bit>
 
 namespace kob::persistence {
@@ -38,6 +39,62 @@ TextView RecordReader::takeText(std::size_t units) noexcept {
   return text;
 }
 
+inline bool RecordReader::readText(TextView& text) noexcept {
+  switch (static_cast<Tag>(*from_)) {
+    case Tag::NarrowText: {
+      ++from_;
+      const std::uint32_t units = loadVarint(from_);
+      from_ += units;
+      text = takeText(units);
+      return true;
+    }
+    case Tag::WideText: {
+      ++from_;
+      const std::uint32_t units = loadVarint(from_);
+      from_ += 2 * std::size_t(units);
+      text = takeText(units);
+      return true;
+    }
+    case Tag::SameText:
+      ++from_;
+      text = takeText(lastUnits_);
+      return true;
+    case Tag::EmptyText:
+      ++from_;
+      // Where a text would lie, so that it continues the run of those around it.
+      text = TextView(texts_, texts_);
+      return true;
+    default:
+      return false;
+  }
+}
+
+std::int32_t RecordReader::ReadStrings(std::span<TextView> to) {
+  std::size_t read = 0;
+  while (read < to.size() && ones_ == 0 && from_ != end_ && readText(to[read])) {
+    ++read;
+  }
+  return static_cast<std::int32_t>(read);
+}
+
+std::int32_t RecordReader::PassOnes(std::int32_t most) {
+  std::int32_t passed = 0;
+  while (passed < most) {
+    if (ones_ == 0) {
+      if (from_ == end_ || static_cast<Tag>(*from_) != Tag::Ones) {
+        break;
+      }
+      ones_ = from_[1];
+      from_ += 2;
+      value_ = PersistValue::smallInteger(1);
+    }
+    const auto now = std::min<std::uint32_t>(ones_, static_cast<std::uint32_t>(most - passed));
+    ones_ -= now;
+    passed += static_cast<std::int32_t>(now);
+  }
+  return passed;
+}
+
 const PersistValue& RecordReader::ReadValue() {
   if (ones_ > 0) {
     --ones_;
@@ -46,25 +103,16 @@ const PersistValue& RecordReader::ReadValue() {
   if (from_ == end_) {
     throw badRecord(number_, container_.offset(number_), u"values are missing");
   }
+  TextView text;
+  if (readText(text)) {
+    value_.becomeString(text);
+    return value_;
+  }
   switch (static_cast<Tag>(*from_++)) {
-    case Tag::NarrowText: {
-      const std::uint32_t units = loadVarint(from_);
-      from_ += units;
-      value_.becomeString(takeText(units));
-      break;
-    }
-    case Tag::WideText: {
-      const std::uint32_t units = loadVarint(from_);
-      from_ += 2 * std::size_t(units);
-      value_.becomeString(takeText(units));
-      break;
-    }
+    case Tag::NarrowText:
+    case Tag::WideText:
     case Tag::SameText:
-      value_.becomeString(takeText(lastUnits_));
-      break;
     case Tag::EmptyText:
-      // Where a text would lie, so that it continues the run of those around it.
-      value_.becomeString(TextView(texts_, texts_));
       break;
     case Tag::Ones:
       ones_ = std::uint32_t(*from_++) - 1;

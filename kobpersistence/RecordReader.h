@@ -33,10 +33,14 @@ class RecordReader final : public PersistStream {
   void setVersion(std::int32_t version) override;
   void WriteValue(const PersistValue& value) override;
   const PersistValue& ReadValue() override;
+  std::int32_t ReadStrings(std::span<TextView> to) override;
+  std::int32_t PassOnes(std::int32_t most) override;
   ImageRef image() const override { return image_; }
 
  private:
   TextView takeText(std::size_t units) noexcept;
+  /// Reads the next value if it is a text; whether it is one. There is a next value.
+  bool readText(TextView& text) noexcept;
 
   FilledObjects& objects_;
   const Container& container_;

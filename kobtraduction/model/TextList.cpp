@@ -207,6 +207,11 @@ void TextList::AddEmpty(std::int32_t count) {
 void TextList::AddView(TextView text) {
   const std::uint32_t end = length();
   const bool isFirst = units_ == nullptr;
+  if (!isFirst && capacity_ == 0 && count_ < fewTexts && !hasMoreEnds_ && units_ + end == text.data()) {
+    // What nearly all texts of a file are.
+    ends_.few[count_++] = end + static_cast<std::uint32_t>(text.size());
+    return;
+  }
   if (text.empty() || capacity_ > 0 || (!isFirst && units_ + end != text.data())) {
     Add(text);
     return;

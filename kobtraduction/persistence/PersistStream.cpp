@@ -28,6 +28,14 @@ void PersistStream::WriteKept(const KeptObject& object) {
   WriteValue(PersistValue::object(object.share()));
 }
 
+std::int32_t PersistStream::ReadStrings(std::span<TextView> /*to*/) {
+  return 0;
+}
+
+std::int32_t PersistStream::PassOnes(std::int32_t /*most*/) {
+  return 0;
+}
+
 ImageRef PersistStream::image() const {
   return {};
 }

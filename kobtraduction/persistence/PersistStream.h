@@ -62,6 +62,15 @@ class KOB_EXPORT PersistStream {
   /// been made and filled already. Reading past the record's end fails.
   virtual const PersistValue& ReadValue() = 0;
 
+  // What ReadValue() reads as well, for records with very many such values. A service without a quicker way
+  // than that reads none (as here).
+
+  /// Reads values as long as they are texts, as many as there is room for; how many it were. The texts live
+  /// as those of ReadValue(), but up to the next call of any reading operation.
+  virtual std::int32_t ReadStrings(std::span<TextView> to);
+  /// Passes over values as long as they are the small integer 1, at most so many; how many it were.
+  virtual std::int32_t PassOnes(std::int32_t most);
+
   /// What keeps the characters of the texts that were read alive: an object may hold on to it and go on using
   /// the views instead of copying them. Texts read one after the other should lie one behind the other then:
   /// an entry keeps its texts as one run. None (as here) when texts live no longer than the call says.

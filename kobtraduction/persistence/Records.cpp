@@ -31,6 +31,10 @@ constexpr std::int32_t usualEntries = 2;
 constexpr std::size_t textsTogether = 16;
 /// What the texts of an entry need, in bytes.
 constexpr std::size_t usualTexts = 320;
+/// Twice as many is a number too.
+constexpr std::int32_t mostLanguagesAtOnce = 1 << 20;
+/// So many texts of an entry are read in one go.
+constexpr std::int32_t usualLanguages = 8;
 
 /// A record stops where it fails, and says so to nobody but the flag of the thread.
 template <class Steps>
@@ -251,9 +255,12 @@ void KOBCellTraduction::readControl(PersistStream& stream) {
 
 void KOBCellTraduction::readFactors(PersistStream& stream) {
   dropFactors();
-  untouched_ = 0;
-  for (std::int32_t left = Global_Util::NbLangues(); left > 0; --left) {
-    const Factor widthRead = readFactor(stream);
+  const std::int32_t languages = Global_Util::NbLangues();
+  const std::int32_t ones = stream.PassOnes(2 * std::clamp(languages, 0, mostLanguagesAtOnce));
+  untouched_ = ones / 2;
+  bool isWidthRead = ones % 2 != 0;
+  for (std::int32_t left = languages - untouched_; left > 0; --left) {
+    const Factor widthRead = std::exchange(isWidthRead, false) ? Factor() : readFactor(stream);
     Factor leftRead;
     try {
       leftRead = readFactor(stream);
@@ -309,15 +316,23 @@ void KOBTraductionObj::read(PersistStream& stream) {
     ImageRef image = stream.image();
     const bool hasImage = static_cast<bool>(image);
     list.setImage(std::move(image));
-    for (std::int32_t left = Global_Util::NbLangues(); left > 0; --left) {
-      const PersistValue& value = stream.ReadValue();
-      if (value.type() != PersistType::String) {
-        list.Add(value.toText());
-      } else if (hasImage) {
-        list.AddView(value.text());
-      } else {
-        list.Add(value.text());
+    const auto add = [&list, hasImage](TextView text) { hasImage ? list.AddView(text) : list.Add(text); };
+    for (std::int32_t left = Global_Util::NbLangues(); left > 0;) {
+      TextView texts[usualLanguages];
+      const std::int32_t read =
+          stream.ReadStrings(std::span(texts, static_cast<std::size_t>(std::min(left, usualLanguages))));
+      std::for_each(texts, texts + read, add);
+      left -= read;
+      if (read > 0) {
+        continue;
       }
+      const PersistValue& value = stream.ReadValue();
+      if (value.type() == PersistType::String) {
+        add(value.text());
+      } else {
+        list.Add(value.toText());
+      }
+      --left;
     }
   });
 }
