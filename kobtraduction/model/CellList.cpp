@@ -103,6 +103,9 @@ CellList::Place CellList::endPlace() const noexcept {
 }
 
 void CellList::insert(Place place, std::shared_ptr<KOBCellTraduction> cell) {
+  if (!index_.empty()) {
+    makeIndexRoom();
+  }
   treeChanged();
   entriesChanged();
   if (chunks_.empty()) {
@@ -278,19 +281,31 @@ void CellList::buildIndex() const {
 }
 
 void CellList::indexAdd(KOBCellTraduction& cell) const {
-  if ((indexed_ + 1) * 4 > index_.size() * 3) {
-    // Rebuilt on the next look-up, with room to grow.
-    index_.clear();
+  indexPut({hashUpper(cell.nom()), &cell});
+  ++indexed_;
+}
+
+void CellList::makeIndexRoom() {
+  if ((indexed_ + 1) * 4 <= index_.size() * 3) {
     return;
   }
+  // By the hashes that are known: reading all the names again would cost more than what is inserted.
+  std::vector<Slot> former(index_.size() * 2, Slot{0, nullptr});
+  former.swap(index_);
+  for (const Slot& slot : former) {
+    if (slot.cell != nullptr) {
+      indexPut(slot);
+    }
+  }
+}
+
+void CellList::indexPut(const Slot& slot) const noexcept {
   const std::size_t mask = index_.size() - 1;
-  const std::uint32_t hash = hashUpper(cell.nom());
-  std::size_t i = hash & mask;
+  std::size_t i = slot.hash & mask;
   while (index_[i].cell != nullptr) {
     i = (i + 1) & mask;
   }
-  index_[i] = {hash, &cell};
-  ++indexed_;
+  index_[i] = slot;
 }
 
 void CellList::indexRemove(KOBCellTraduction& cell) const noexcept {

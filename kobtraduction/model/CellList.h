@@ -81,7 +81,10 @@ class KOB_EXPORT CellList {
   Place upperBound(TextView name) const;
   Place firstGreater(TextView name) const;
   void buildIndex() const;
+  /// Room for one more cell.
+  void makeIndexRoom();
   void indexAdd(KOBCellTraduction& cell) const;
+  void indexPut(const Slot& slot) const noexcept;
   void indexRemove(KOBCellTraduction& cell) const noexcept;
 
   std::vector<Chunk> chunks_;
