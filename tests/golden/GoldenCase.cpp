@@ -42,7 +42,7 @@ std::string mustRead(const fs::path& path) {
 /// The one kind of host that can show a case; "" when all can.
 std::string kindOf(const std::string& name) {
   const std::string only = readFile(folderOf(name) / "only").value_or("");
-  const std::string kind = only.substr(0, only.find(':'));
+  std::string kind = only.substr(0, only.find(':'));
   if (!kind.empty() && kind != "scripted" && kind != "live") {
     throw std::runtime_error(name + " is for no kind of host: " + only);
   }
