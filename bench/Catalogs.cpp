@@ -19,18 +19,6 @@ bool writeFile(const QString& name, const std::string& text) {
          file.flush();
 }
 
-bool runTool(const QString& tool, const QStringList& arguments) {
-  QProcess process;
-  process.start(tool, arguments);
-  const bool done =
-      process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-  if (!done) {
-    std::fprintf(stderr, "kobbench: %s does not run: %s\n", tool.toUtf8().constData(),
-                 process.readAllStandardError().constData());
-  }
-  return done;
-}
-
 std::string escapedXml(const std::string& text) {
   return QString::fromStdString(text).toHtmlEscaped().toStdString();
 }
@@ -70,6 +58,18 @@ std::string tsOf(const std::vector<Message>& messages) {
 constexpr const char* poHeader = "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n\n";
 
 }  // namespace
+
+bool runTool(const QString& tool, const QStringList& arguments) {
+  QProcess process;
+  process.start(tool, arguments);
+  const bool done =
+      process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+  if (!done) {
+    std::fprintf(stderr, "kobbench: %s does not run: %s\n", tool.toUtf8().constData(),
+                 process.readAllStandardError().constData());
+  }
+  return done;
+}
 
 QString compileQtCatalog(const std::vector<Message>& messages, const QString& folder, const QString& name) {
   const QString source = folder + '/' + name + ".ts";

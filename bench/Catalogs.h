@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <string>
 #include <vector>
@@ -31,5 +32,7 @@ bool writeMergeCatalogs(const std::vector<Message>& own, const std::vector<Messa
 /// Fill the first version's gaps from the second, into a third file; whether that went well.
 bool runMsgmerge(const QString& folder);
 bool runLconvert(const QString& folder);
+/// Runs a command to its end; whether it ended with status 0. What it says is shown when not.
+bool runTool(const QString& tool, const QStringList& arguments);
 
 }  // namespace bench

@@ -3,6 +3,9 @@
 #include "PathTable.h"
 #include "Suite.h"
 
+#include <kobpersistence/KOBPersistence.h>
+
+#include <QCoreApplication>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -139,6 +142,7 @@ class Peers {
   }
   void gettext() const { check(runMsgmerge(folder_.path()), "msgmerge"); }
   void qt() const { check(runLconvert(folder_.path()), "lconvert"); }
+  QString path(const QString& name) const { return folder_.filePath(name); }
 
  private:
   static void check(bool done, const char* tool) {
@@ -177,6 +181,32 @@ void contestWhole(int entries, bool withPeers, const std::function<void(Contest&
     contest.add("lconvert, 1 language", entries, [&](int) { peers->qt(); });
   }
   contest.expect({"UpdateWithTraductionModele", "join, then hash", 3.0, 2.0});
+  run(contest);
+}
+
+/// Whole commands, from reading the files to writing one.
+void contestCommands(int entries, const std::function<void(Contest&)>& run) {
+  const MergeModels models(entries);
+  const Peers peers(models);
+  const QString own = peers.path("own.trad");
+  const QString other = peers.path("other.trad");
+  kob::usePersistence();
+  if (!models.model(Version::Own)->Save(own.toStdU16String()) ||
+      !models.model(Version::Other)->Save(other.toStdU16String())) {
+    throw std::runtime_error("the models cannot be saved");
+  }
+  const QString kobtrad = QCoreApplication::applicationDirPath() + "/kobtrad";
+  const QStringList arguments{"merge", own, other, "-o", peers.path("merged.trad")};
+  Contest contest("Merge, whole command", std::to_string(entries));
+  contest.add("kobtrad merge, 5 languages", entries, [&](int) {
+    if (!runTool(kobtrad, arguments)) {
+      throw std::runtime_error("kobtrad does not merge; is it built?");
+    }
+  });
+  contest.add("msgmerge, 1 language", entries, [&](int) { peers.gettext(); });
+  contest.add("lconvert, 1 language", entries, [&](int) { peers.qt(); });
+  contest.expect({"kobtrad merge, 5 languages", "msgmerge, 1 language", 0.25});
+  contest.expect({"kobtrad merge, 5 languages", "lconvert, 1 language", 0.25});
   run(contest);
 }
 
@@ -220,6 +250,9 @@ void addMerging(Suite& suite) {
     suite.add("Merge/complete/" + size, [entries](const auto& run) { contestCompleting(entries, run); });
     suite.add("Merge/whole/" + size,
               [entries](const auto& run) { contestWhole(entries, entries <= 100000, run); });
+    if (entries == 100000) {
+      suite.add("Merge/command/" + size, [entries](const auto& run) { contestCommands(entries, run); });
+    }
     suite.add("Search/" + size, [entries](const auto& run) { contestSearch(entries, run); });
   }
 }
