@@ -1,25 +1,22 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "Filled.h"
 
-#include "ModelTexts.h"
-
+#include <algorithm>
 #include <array>
 #include <cstdio>
+#include <memory>
 
 namespace kob::command {
 
-Filled filledTexts(const KOBModeleTraduction& model) {
+Filled filledTexts(const std::vector<KOBTraductionObj*>& entries, std::int32_t languages) {
   Filled filled;
-  filled.texts.resize(static_cast<std::size_t>(model.NbLangues()));
-  for (const CellPlace& place : cellsOf(model)) {
-    if (place.isRepeated) {
-      continue;
-    }
-    for (const KOBTraductionObj* const entry : entriesOf(*place.cell)) {
-      ++filled.entries;
-      for (std::size_t i = 0; i < filled.texts.size(); ++i) {
-        filled.texts[i] += textIn(*entry, static_cast<std::int32_t>(i) + 1).empty() ? 0 : 1;
-      }
+  filled.entries = entries.size();
+  filled.texts.resize(static_cast<std::size_t>(languages));
+  for (const KOBTraductionObj* const entry : entries) {
+    const std::shared_ptr<const TextList> texts = entry->ColTraduction();
+    const std::int32_t count = texts != nullptr ? std::min(texts->Count(), languages) : 0;
+    for (std::int32_t i = 0; i < count; ++i) {
+      filled.texts[static_cast<std::size_t>(i)] += texts->Item(i + 1).empty() ? 0 : 1;
     }
   }
   return filled;

@@ -4,6 +4,7 @@
 #include <kobtraduction/model/KOBModeleTraduction.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -15,7 +16,8 @@ struct Filled {
   std::vector<std::size_t> texts;
 };
 
-Filled filledTexts(const KOBModeleTraduction& model);
+/// Of entries, as allEntriesOf tells them.
+Filled filledTexts(const std::vector<KOBTraductionObj*>& entries, std::int32_t languages);
 
 /// What came in between, language by language, as a table for a person that ends with a line break. Language
 /// 1 has a line only when it was filled.

@@ -28,9 +28,11 @@ Status fillAndTell(const std::string& file, const Target& target,
                    const std::function<void(KOBModeleTraduction&)>& fill) {
   KOBModeleTraduction model;
   load(model, file);
-  const Filled before = filledTexts(model);
+  // Filling adds and removes none.
+  const std::vector<KOBTraductionObj*> entries = allEntriesOf(model);
+  const Filled before = filledTexts(entries, model.NbLangues());
   fill(model);
-  print(filledTable(before, filledTexts(model)));
+  print(filledTable(before, filledTexts(entries, model.NbLangues())));
   if (!target.isDryRun) {
     save(model, target.of(file));
   }

@@ -48,6 +48,17 @@ std::vector<KOBTraductionObj*> entriesOf(const KOBCellTraduction& cell) {
   return entries;
 }
 
+std::vector<KOBTraductionObj*> allEntriesOf(const KOBModeleTraduction& model) {
+  std::vector<KOBTraductionObj*> all;
+  for (const CellPlace& place : cellsOf(model)) {
+    if (!place.isRepeated) {
+      const std::vector<KOBTraductionObj*> entries = entriesOf(*place.cell);
+      all.insert(all.end(), entries.begin(), entries.end());
+    }
+  }
+  return all;
+}
+
 TextView textIn(const KOBTraductionObj& entry, std::int32_t langue) {
   const TextList* const texts = entry.ColTraduction().get();
   return texts != nullptr && langue >= 1 && langue <= texts->Count() ? texts->Item(langue) : TextView();

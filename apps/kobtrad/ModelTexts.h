@@ -28,6 +28,9 @@ std::vector<CellPlace> cellsOf(const KOBModeleTraduction& model);
 /// The entries of a cell that can be read: one of a message, those of a control, none of a mere node.
 std::vector<KOBTraductionObj*> entriesOf(const KOBCellTraduction& cell);
 
+/// Those of all cells of a model, in the order of the tree.
+std::vector<KOBTraductionObj*> allEntriesOf(const KOBModeleTraduction& model);
+
 /// The text of an entry in a language, "" where its list has none.
 TextView textIn(const KOBTraductionObj& entry, std::int32_t langue);
 
