@@ -40,8 +40,9 @@ inline void widen(char16_t* to, const Byte* from, std::size_t count) noexcept {
 /// Units that do not fit into a byte leave a bit of these.
 inline constexpr std::uint64_t upperBytes = 0xFF00'FF00'FF00'FF00;
 
-/// Sixteen units / eight units / four units; what they have in their upper bytes is returned, or-ed together.
-inline WideBlock narrowSixteen(Byte* to, const char16_t* from) noexcept {
+/// Sixteen units / eight units / four units; what they have in their upper bytes is or-ed to `seen`, or
+/// returned. (A processor without such registers has no common way to return a block.)
+inline void narrowSixteen(Byte* to, const char16_t* from, WideBlock& seen) noexcept {
   DoubleWideBlock wide;
   std::memcpy(&wide, from, sizeof wide);
   const auto block = __builtin_convertvector(wide, DoubleBlock);
@@ -50,14 +51,14 @@ inline WideBlock narrowSixteen(Byte* to, const char16_t* from) noexcept {
   WideBlock high;
   std::memcpy(&low, from, sizeof low);
   std::memcpy(&high, from + 8, sizeof high);
-  return low | high;
+  seen |= low | high;
 }
-inline WideBlock narrowEight(Byte* to, const char16_t* from) noexcept {
+inline void narrowEight(Byte* to, const char16_t* from, WideBlock& seen) noexcept {
   WideBlock wide;
   std::memcpy(&wide, from, sizeof wide);
   const auto block = __builtin_convertvector(wide, NarrowBlock);
   std::memcpy(to, &block, sizeof block);
-  return wide;
+  seen |= wide;
 }
 inline std::uint64_t narrowFour(Byte* to, const char16_t* from) noexcept {
   std::uint64_t units = 0;
@@ -72,7 +73,7 @@ inline std::uint64_t narrowFour(Byte* to, const char16_t* from) noexcept {
 }
 
 /// Whether all units fit into a byte, of which `seen` is what was or-ed together.
-inline bool isNarrow(WideBlock seen) noexcept {
+inline bool isNarrow(const WideBlock& seen) noexcept {
   std::uint64_t halves[2];
   std::memcpy(halves, &seen, sizeof halves);
   return ((halves[0] | halves[1]) & upperBytes) == 0;
@@ -81,15 +82,18 @@ inline bool isNarrow(WideBlock seen) noexcept {
 /// Units to bytes of the same number; false, with nothing of use written, when one does not fit into a byte.
 /// Neither reads nor writes beyond the last one: the last block ends where the text ends.
 [[gnu::always_inline]] inline bool narrow(Byte* to, const char16_t* from, std::size_t count) noexcept {
-  if (count >= 16) {
-    WideBlock seen = {};
-    for (std::size_t i = 0; i + 16 < count; i += 16) {
-      seen |= narrowSixteen(to + i, from + i);
-    }
-    return isNarrow(seen | narrowSixteen(to + count - 16, from + count - 16));
-  }
   if (count >= 8) {
-    return isNarrow(narrowEight(to, from) | narrowEight(to + count - 8, from + count - 8));
+    WideBlock seenBlock = {};
+    if (count >= 16) {
+      for (std::size_t i = 0; i + 16 < count; i += 16) {
+        narrowSixteen(to + i, from + i, seenBlock);
+      }
+      narrowSixteen(to + count - 16, from + count - 16, seenBlock);
+    } else {
+      narrowEight(to, from, seenBlock);
+      narrowEight(to + count - 8, from + count - 8, seenBlock);
+    }
+    return isNarrow(seenBlock);
   }
   std::uint64_t seen = 0;
   if (count >= 4 && std::endian::native == std::endian::little) {

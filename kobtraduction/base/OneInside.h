@@ -109,8 +109,8 @@ class OneInside {
   }
 
   union Place {
-    Place() noexcept {}  // NOLINT(modernize-use-equals-default): deleted when an item has its own.
-    ~Place() {}          // NOLINT(modernize-use-equals-default): likewise.
+    Place() noexcept : apart(nullptr) {}
+    ~Place() {}  // NOLINT(modernize-use-equals-default): deleted when an item has its own.
     T inside;
     T* apart;
   } place_;
