@@ -3,6 +3,7 @@
 #include <kobtraduction/component/Global_Util.h>
 #include <kobtraduction/model/KOBModeleTraduction.h>
 #include <kobtraduction/model/PathMemo.h>
+#include <kobtraduction/model/PathSteps.h>
 
 namespace kob {
 
@@ -59,14 +60,11 @@ KOBCellTraduction* KOBModeleTraduction::findCell(TextView path) const {
 KOBCellTraduction* KOBModeleTraduction::walkTo(TextView path) const {
   KOBCellTraduction* cell = racine_.get();
   while (cell != nullptr) {
-    const std::size_t start = path.find_first_not_of(u'\\');
-    if (start == TextView::npos) {
+    const TextView segment = takeSegment(path);
+    if (segment.empty()) {
       break;
     }
-    path.remove_prefix(start);
-    const TextView segment = path.substr(0, path.find(u'\\'));
     cell = cell->findCell(segment);
-    path.remove_prefix(segment.size());
   }
   return cell;
 }

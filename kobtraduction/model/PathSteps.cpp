@@ -3,18 +3,24 @@
 #include <kobtraduction/model/KOBCellTraduction.h>
 #include <kobtraduction/model/PathSteps.h>
 
+#include <algorithm>
+
 namespace kob {
+
+TextView takeSegment(TextView& path) noexcept {
+  path.remove_prefix(std::min(path.find_first_not_of(u'\\'), path.size()));
+  const TextView segment = path.substr(0, path.find(u'\\'));
+  path.remove_prefix(segment.size());
+  return segment;
+}
 
 std::optional<KOBCellTraduction*> followPath(KOBCellTraduction* start, TextView path) {
   KOBCellTraduction* cell = start;
   while (cell != nullptr) {
-    const std::size_t segmentStart = path.find_first_not_of(u'\\');
-    if (segmentStart == TextView::npos) {
+    const TextView segment = takeSegment(path);
+    if (segment.empty()) {
       break;
     }
-    path.remove_prefix(segmentStart);
-    const TextView segment = path.substr(0, path.find(u'\\'));
-    path.remove_prefix(segment.size());
     if (cell->TypeCell() == 2) {
       return nullptr;
     }
