@@ -125,10 +125,14 @@ void TextList::splice(std::uint32_t first, std::uint32_t last, TextView text) {
   char16_t* end = std::copy(units_, units_ + first, own.get());
   end = std::copy(text.begin(), text.end(), end);
   std::copy(units_ + last, units_ + total, end);
+  takeRun(std::move(own), capacity);
+}
+
+void TextList::takeRun(std::unique_ptr<char16_t[]> run, std::size_t capacity) noexcept {
   if (capacity_ > 0) {
     delete[] units_;
   }
-  units_ = own.release();
+  units_ = run.release();
   setCapacity(capacity);
   image_ = {};
 }

@@ -97,6 +97,8 @@ class KOB_EXPORT TextList {
   void insertEnd(std::uint32_t item, std::uint32_t end) noexcept;
   /// Puts `text` in the place of the units first..last of the run; the ends are the caller's.
   void splice(std::uint32_t first, std::uint32_t last, TextView text);
+  /// The list's run becomes this one, with room for so many units.
+  void takeRun(std::unique_ptr<char16_t[]> run, std::size_t capacity) noexcept;
   /// A run of its own, longer by so many units, with the text textFor(item) in the gap of each item.
   template <class TextFor>
   void makeFilledRun(std::size_t growth, TextFor textFor);

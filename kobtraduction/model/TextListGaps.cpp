@@ -33,12 +33,7 @@ void TextList::makeFilledRun(std::size_t growth, TextFor textFor) {
     ownEnds[item] = static_cast<std::uint32_t>(written - run.get()) + (begin - copied);
   }
   std::copy(units_ + copied, units_ + begin, written);
-  if (capacity_ > 0) {
-    delete[] units_;
-  }
-  units_ = run.release();
-  setCapacity(total);
-  image_ = {};
+  takeRun(std::move(run), total);
 }
 
 bool TextList::FillGaps(const TextList& source, std::int32_t first, std::int32_t last) {
