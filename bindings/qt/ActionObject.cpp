@@ -11,10 +11,6 @@ namespace kob::qt {
 ActionObject::ActionObject(QAction& action, Role role, HostRef owner, Link link)
     : LiveObject(action, std::move(owner), link), role_(role) {}
 
-bool ActionObject::mayHave(Property property) const noexcept {
-  return property != Property::Controls && property != Property::Buttons && property != Property::Tabs;
-}
-
 std::optional<Value> ActionObject::read(Property property) {
   switch (property) {
     case Property::Caption:

@@ -15,8 +15,6 @@ class ActionObject final : public LiveObject {
 
   ActionObject(QAction& action, Role role, HostRef owner, Link link);
 
-  bool mayHave(Property property) const noexcept override;
-
  private:
   std::optional<Value> read(Property property) override;
   bool writeText(Property property, const QString& text) override;

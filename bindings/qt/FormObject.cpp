@@ -46,6 +46,10 @@ class FormControls final : public HostObject {
 
 FormObject::FormObject(QWidget& form) : LiveObject(form, nullptr, Link::None) {}
 
+bool FormObject::mayHave(Property property) const noexcept {
+  return property == Property::Controls || LiveObject::mayHave(property);
+}
+
 std::optional<Value> FormObject::read(Property property) {
   switch (property) {
     case Property::Caption:

@@ -14,6 +14,8 @@ class FormObject final : public LiveObject, public std::enable_shared_from_this<
  public:
   explicit FormObject(QWidget& form);
 
+  bool mayHave(Property property) const noexcept override;
+
  private:
   std::optional<Value> read(Property property) override;
   bool write(Property property, const Value& value) override;

@@ -102,6 +102,10 @@ bool LiveObject::assignText(Property property, TextView text) {
   return isText(property) ? writeText(property, toQString(text)) : write(property, Value(text));
 }
 
+bool LiveObject::mayHave(Property property) const noexcept {
+  return property != Property::Controls && property != Property::Buttons && property != Property::Tabs;
+}
+
 bool LiveObject::tellPlace(PlainPlace& place) {
   const QObject* const object = live();
   if (object == nullptr || owner_ == nullptr || link_ == Link::None || hasTagOrIndex(*object)) {

@@ -39,6 +39,8 @@ class LiveObject : public HostObject {
   bool setIndexed(Property property, std::int32_t index, const Value& value) final;
   bool appendText(Property property, Text& text) final;
   bool assignText(Property property, TextView text) final;
+  /// Neither controls nor buttons nor tabs: who has them says so.
+  bool mayHave(Property property) const noexcept override;
   bool tellPlace(PlainPlace& place) final;
   const void* identity() const noexcept override;
 

@@ -71,7 +71,7 @@ TabbedObject::TabbedObject(QWidget& widget, Kind kind, HostRef owner, Link link)
     : WidgetObject(widget, kind, std::move(owner), link) {}
 
 bool TabbedObject::mayHave(Property property) const noexcept {
-  return property == Property::Tabs || WidgetObject::mayHave(property);
+  return property == Property::Tabs || LiveObject::mayHave(property);
 }
 
 int TabbedObject::count() const {

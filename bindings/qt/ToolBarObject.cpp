@@ -21,7 +21,7 @@ void ToolBarObject::setButtons(std::vector<HostRef> buttons) {
 }
 
 bool ToolBarObject::mayHave(Property property) const noexcept {
-  return property == Property::Buttons || WidgetObject::mayHave(property);
+  return property == Property::Buttons || LiveObject::mayHave(property);
 }
 
 std::optional<Value> ToolBarObject::read(Property property) {

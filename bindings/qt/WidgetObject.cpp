@@ -28,17 +28,6 @@ bool WidgetObject::movable() const noexcept {
   return kind_ != Kind::Menu && !isSecondFace();
 }
 
-bool WidgetObject::mayHave(Property property) const noexcept {
-  switch (property) {
-    case Property::Controls:
-    case Property::Buttons:
-    case Property::Tabs:
-      return false;
-    default:
-      return true;
-  }
-}
-
 std::optional<Value> WidgetObject::read(Property property) {
   const bool isMenu = kind_ == Kind::Menu;
   switch (property) {

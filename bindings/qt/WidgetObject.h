@@ -13,8 +13,6 @@ class WidgetObject : public LiveObject {
  public:
   WidgetObject(QWidget& widget, Kind kind, HostRef owner, Link link);
 
-  bool mayHave(Property property) const noexcept override;
-
  protected:
   std::optional<Value> read(Property property) override;
   bool write(Property property, const Value& value) override;
