@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QDialog>
 #include <QDynamicPropertyChangeEvent>
-#include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
 #include <QTabWidget>
@@ -114,56 +113,6 @@ TEST(QtTag, ObjectsAreNoTag) {
   QDialog form;
   add<QLabel>(form, "label");
   EXPECT_FALSE(onlyControl(form)->set(Property::Tag, Value(hostForm(&form))));
-}
-
-TEST(QtTag, AnObjectWithoutOneTellsItsPlaceAtOnce) {
-  QDialog form;
-  add<QLabel>(form, "label");
-  add<QLabel>(form, "same");
-  add<QLabel>(form, "Same");
-  add<QMenu>(form, "menu");
-  add<QAction>(form, "action");
-  add<QLabel>(*add<QGroupBox>(form, "box"), "inside");
-  add<QTabWidget>(form, "tabs");
-  add<QToolBar>(form, "bar");
-  for (const HostRef& member : members(hostForm(&form), Property::Controls)) {
-    PlainPlace place;
-    ASSERT_TRUE(member->tellPlace(place)) << text(member, Property::Name);
-    const std::optional<std::int32_t> index = number(member, Property::Index);
-    EXPECT_EQ(toUtf8(place.name),
-              text(member, Property::Name) + (index ? "(" + std::to_string(*index) + ")" : std::string()));
-    EXPECT_EQ(*place.container, object(member, place.link));
-  }
-}
-
-TEST(QtTag, WhatTheApplicationSetIsAskedFor) {
-  for (const char* const name : {"tag", "Index"}) {
-    QDialog form;
-    add<QLabel>(form, "label")->setProperty(name, 0);
-    PlainPlace place;
-    EXPECT_FALSE(onlyControl(form)->tellPlace(place)) << name;
-  }
-  QDialog form;
-  add<QLabel>(form, "label")->setProperty("other", 0);
-  PlainPlace place;
-  EXPECT_TRUE(onlyControl(form)->tellPlace(place));
-  EXPECT_FALSE(hostForm(&form)->tellPlace(place));
-}
-
-TEST(QtTag, WhatAnObjectSaysThatItLacksItDoesNotAnswer) {
-  QDialog form;
-  add<QLabel>(form, "label");
-  add<QMenu>(form, "menu");
-  add<QAction>(form, "action");
-  add<QTabWidget>(form, "tabs");
-  add<QToolBar>(form, "bar");
-  for (const HostRef& member : members(hostForm(&form), Property::Controls)) {
-    for (int i = 0; i < propertyCount; ++i) {
-      const auto property = static_cast<Property>(i);
-      EXPECT_TRUE(member->mayHave(property) || !member->get(property))
-          << text(member, Property::Name) << ' ' << i;
-    }
-  }
 }
 
 }  // namespace kob::qt::test
