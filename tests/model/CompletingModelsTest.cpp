@@ -134,23 +134,38 @@ std::pair<Text, Text> textsOfOneHash() {
   }
 }
 
-TEST_F(CompletingModels, DifferentTextsOfOneHashAreKeptApart) {
+/// A list that is too short fails the operation in the end, and what stands before it is completed in another
+/// way.
+class CompletingOneHash : public CompletingModels, public ::testing::WithParamInterface<bool> {
+ protected:
+  void completeAll() {
+    if (GetParam()) {
+      add({u"b", u""});
+    }
+    EXPECT_EQ(complete(), GetParam() ? std::optional(FailureKind::InvalidIndex) : std::nullopt);
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Lists, CompletingOneHash, ::testing::Bool(),
+                         [](const auto& shape) { return shape.param ? "ShortBehind" : "LongEnough"; });
+
+TEST_P(CompletingOneHash, DifferentTextsAreKeptApart) {
   const auto [first, second] = textsOfOneHash();
   const CellRef firstGap = add({first, u"", u""});
   const CellRef secondGap = add({second, u"", u""});
   add({second, u"second", u""});
   add({first, u"first", u""});
-  complete();
+  completeAll();
   EXPECT_EQ(texts(firstGap)[1], u"first");
   EXPECT_EQ(texts(secondGap)[1], u"second");
 }
 
-TEST_F(CompletingModels, DifferentTextsOfOneHashAreKeptApartWhenTheFirstHasNoGap) {
+TEST_P(CompletingOneHash, DifferentTextsAreKeptApartWhenTheFirstHasNoGap) {
   const auto [first, second] = textsOfOneHash();
   add({first, u"first", u"x"});
   const CellRef secondGap = add({second, u"", u""});
   add({second, u"second", u""});
-  complete();
+  completeAll();
   EXPECT_EQ(texts(secondGap), (Texts{second, u"second", u""}));
 }
 
@@ -174,28 +189,6 @@ TEST_F(CompletingModels, AheadOfAShortListAllIsCompletedAsWithoutOne) {
   EXPECT_EQ(complete(), FailureKind::InvalidIndex);
   EXPECT_EQ(texts(first), (Texts{u"a", u"first", u"third"}));
   EXPECT_EQ(texts(last), (Texts{u"A", u"first", u"third"}));
-}
-
-TEST_F(CompletingModels, AheadOfAShortListDifferentTextsOfOneHashAreKeptApart) {
-  const auto [first, second] = textsOfOneHash();
-  const CellRef firstGap = add({first, u"", u""});
-  const CellRef secondGap = add({second, u"", u""});
-  add({second, u"second", u""});
-  add({first, u"first", u""});
-  add({u"b", u""});
-  EXPECT_EQ(complete(), FailureKind::InvalidIndex);
-  EXPECT_EQ(texts(firstGap)[1], u"first");
-  EXPECT_EQ(texts(secondGap)[1], u"second");
-}
-
-TEST_F(CompletingModels, AheadOfAShortListDifferentTextsOfOneHashAreKeptApartWhenTheFirstHasNoGap) {
-  const auto [first, second] = textsOfOneHash();
-  add({first, u"first", u"x"});
-  const CellRef secondGap = add({second, u"", u""});
-  add({second, u"second", u""});
-  add({u"b", u""});
-  EXPECT_EQ(complete(), FailureKind::InvalidIndex);
-  EXPECT_EQ(texts(secondGap), (Texts{second, u"second", u""}));
 }
 
 TEST_F(CompletingModels, AShortListThatNobodySharesATextWithFailsToo) {
