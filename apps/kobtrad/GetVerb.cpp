@@ -19,8 +19,7 @@ struct GetOptions {
 };
 
 Status get(const GetOptions& options) {
-  KOBModeleTraduction model;
-  load(model, options.file);
+  KOBModeleTraduction& model = loaded(options.file);
   const KOBTraductionObj& entry = entryAt(model, options.path, options.name);
   requireLanguage(model, options.langue);
   TextView text = textIn(entry, options.langue);

@@ -20,8 +20,7 @@ struct LanguagesOptions {
 };
 
 Status tellCount(const std::string& file) {
-  KOBModeleTraduction model;
-  load(model, file);
+  KOBModeleTraduction& model = loaded(file);
   print(std::to_string(model.NbLangues()) + "\n");
   return Status::Fine;
 }

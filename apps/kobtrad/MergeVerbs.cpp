@@ -26,8 +26,7 @@ struct MergeOptions {
 /// Loads `file`, lets `fill` work on it, prints what that filled and saves it unless this is a rehearsal.
 Status fillAndTell(const std::string& file, const Target& target,
                    const std::function<void(KOBModeleTraduction&)>& fill) {
-  KOBModeleTraduction model;
-  load(model, file);
+  KOBModeleTraduction& model = loaded(file);
   // Filling adds and removes none.
   const std::vector<KOBTraductionObj*> entries = allEntriesOf(model);
   const Filled before = filledTexts(entries, model.NbLangues());
@@ -43,8 +42,7 @@ Status fillAndTell(const std::string& file, const Target& target,
 void mergeFile(KOBModeleTraduction& model, const std::string& file, std::int32_t langue) {
   // The language count is the thread's: the one of the file that was loaded last.
   const std::int32_t languages = model.NbLangues();
-  KOBModeleTraduction other;
-  load(other, file);
+  KOBModeleTraduction& other = loaded(file);
   const std::int32_t others = other.NbLangues();
   if (others < languages) {
     other.setNbLangues(languages);

@@ -4,6 +4,9 @@
 #include "CommandBoxes.h"
 #include "Utf8.h"
 
+#include <memory>
+#include <vector>
+
 namespace kob::command {
 
 namespace {
@@ -27,6 +30,14 @@ void load(KOBModeleTraduction& model, const std::string& file) {
   }
 }
 
+KOBModeleTraduction& loaded(const std::string& file) {
+  // Never released, and never lost from sight: a leak checker finds the models through this reference.
+  static auto& models = *new std::vector<std::unique_ptr<KOBModeleTraduction>>;
+  KOBModeleTraduction& model = *models.emplace_back(std::make_unique<KOBModeleTraduction>());
+  load(model, file);
+  return model;
+}
+
 void save(KOBModeleTraduction& model, const std::string& file) {
   CommandBoxes boxes;
   if (!model.Save(argumentText(file, "the file's name"))) {
@@ -36,8 +47,7 @@ void save(KOBModeleTraduction& model, const std::string& file) {
 
 void edit(const std::string& input, const std::string& output,
           const std::function<void(KOBModeleTraduction&)>& change) {
-  KOBModeleTraduction model;
-  load(model, input);
+  KOBModeleTraduction& model = loaded(input);
   change(model);
   save(model, output);
 }

@@ -21,6 +21,9 @@ class WriteError : public std::runtime_error {
 
 /// Loads all of a file into the model, which should be new, or throws a ReadError.
 void load(KOBModeleTraduction& model, const std::string& file);
+/// The same into a new model that lives as long as the process: a verb ends with its process, and to take two
+/// large models apart node by node would be a sixth of merging them.
+KOBModeleTraduction& loaded(const std::string& file);
 /// Saves the model, or throws a WriteError.
 void save(KOBModeleTraduction& model, const std::string& file);
 

@@ -5,13 +5,15 @@
 #include "Utf8.h"
 #include "Verb.h"
 
+#include <memory_resource>
 #include <unordered_set>
 
 namespace kob::command {
 
 std::vector<CellPlace> cellsOf(const KOBModeleTraduction& model) {
   std::vector<CellPlace> places;
-  std::unordered_set<const KOBCellTraduction*> met;
+  std::pmr::monotonic_buffer_resource memory;
+  std::pmr::unordered_set<const KOBCellTraduction*> met(&memory);
   // What is still to come; the last one is next.
   std::vector<CellPlace> open{{model.Racine().get(), 0, 0}};
   while (!open.empty()) {

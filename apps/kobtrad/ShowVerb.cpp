@@ -18,8 +18,7 @@ struct ShowOptions {
 };
 
 Status show(const ShowOptions& options) {
-  KOBModeleTraduction model;
-  load(model, options.file);
+  KOBModeleTraduction& model = loaded(options.file);
   for (const std::int32_t langue : options.listing.languages) {
     requireLanguage(model, langue);
   }

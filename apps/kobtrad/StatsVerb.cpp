@@ -16,8 +16,7 @@ struct StatsOptions {
 };
 
 Status stats(const StatsOptions& options) {
-  KOBModeleTraduction model;
-  load(model, options.file);
+  KOBModeleTraduction& model = loaded(options.file);
   const Coverage coverage = coverageOf(model);
   print(options.isJson ? coverageJson(coverage, options.file) : coverageTable(coverage, options.file));
   return Status::Fine;
