@@ -64,15 +64,20 @@ void TextList::setMoreEnds(std::unique_ptr<Ends> ends) noexcept {
 }
 
 void TextList::makeEnds() {
-  if (units_ == nullptr) {
-    if (hasMoreEnds_) {
-      ends_.more->assign(count_, 0);
-    } else if (count_ <= fewTexts) {
-      std::fill(std::begin(ends_.few), std::end(ends_.few), 0);
-    } else {
-      setMoreEnds(std::make_unique<Ends>(count_, 0));
-    }
+  if (units_ != nullptr) {
+    return;
   }
+  if (hasMoreEnds_) {
+    ends_.more->assign(count_, 0);
+  } else if (count_ <= fewTexts) {
+    std::fill(std::begin(ends_.few), std::end(ends_.few), 0);
+  } else {
+    setMoreEnds(std::make_unique<Ends>(count_, 0));
+  }
+}
+
+void TextList::makeEndsAndRoom() {
+  makeEnds();
   if (!hasMoreEnds_ && count_ == fewTexts) {
     auto ends = std::make_unique<Ends>();
     ends->reserve(fewTexts * 2);
@@ -142,7 +147,7 @@ void TextList::Add(TextView text) {
     ++count_;
     return;
   }
-  makeEnds();
+  makeEndsAndRoom();
   const std::uint32_t end = length();
   if (!text.empty()) {
     splice(end, end, text);
@@ -157,7 +162,7 @@ void TextList::Add(TextView text, std::int32_t before) {
     ++count_;
     return;
   }
-  makeEnds();
+  makeEndsAndRoom();
   const std::uint32_t begin = start(item);
   const auto size = static_cast<std::uint32_t>(text.size());
   if (size > 0) {
@@ -191,9 +196,7 @@ void TextList::Replace(std::int32_t position, TextView text) {
     return;
   }
   tellIfFirst(item);
-  if (units_ == nullptr) {
-    makeEnds();
-  }
+  makeEnds();
   const std::uint32_t begin = start(item);
   const std::uint32_t old = units_ != nullptr ? end(item) : 0;
   splice(begin, old, text);
@@ -202,7 +205,7 @@ void TextList::Replace(std::int32_t position, TextView text) {
 
 void TextList::AddEmpty(std::int32_t count) {
   for (; units_ != nullptr && count > 0; --count) {
-    makeEnds();
+    makeEndsAndRoom();
     insertEnd(count_, length());
   }
   count_ += static_cast<std::uint32_t>(std::max(count, 0));
@@ -220,7 +223,7 @@ void TextList::AddView(TextView text) {
     Add(text);
     return;
   }
-  makeEnds();
+  makeEndsAndRoom();
   if (isFirst) {
     units_ = text.data();
   }

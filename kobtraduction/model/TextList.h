@@ -89,11 +89,13 @@ class KOB_EXPORT TextList {
   void setCapacity(std::size_t units) noexcept { capacity_ = static_cast<std::uint32_t>(units) & longestRun; }
   std::uint32_t length() const noexcept { return units_ != nullptr ? start(count_) : 0; }
 
-  /// Gives every text an end, when only "" was there so far, and has room for one more.
+  /// Gives every text an end, when only "" was there so far.
   void makeEnds();
+  /// The same, and has room for one more.
+  void makeEndsAndRoom();
   /// From now on the ends lie apart.
   void setMoreEnds(std::unique_ptr<Ends> ends) noexcept;
-  /// Into the room that makeEnds made.
+  /// Into the room that makeEndsAndRoom made.
   void insertEnd(std::uint32_t item, std::uint32_t end) noexcept;
   /// Puts `text` in the place of the units first..last of the run; the ends are the caller's.
   void splice(std::uint32_t first, std::uint32_t last, TextView text);

@@ -14,9 +14,7 @@ void TextList::makeFilledRun(std::size_t growth, TextFor textFor) {
     throw std::bad_alloc();
   }
   auto run = std::make_unique_for_overwrite<char16_t[]>(total);
-  if (units_ == nullptr) {
-    makeEnds();
-  }
+  makeEnds();
   std::uint32_t* const ownEnds = ends();
   char16_t* written = run.get();
   // Texts between two gaps are copied together, when the second one is reached.
