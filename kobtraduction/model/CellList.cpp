@@ -2,6 +2,7 @@
 #include <kobtraduction/base/Failure.h>
 #include <kobtraduction/model/CellList.h>
 #include <kobtraduction/model/KOBCellTraduction.h>
+#include <kobtraduction/model/NameIndex.h>
 #include <kobtraduction/model/PathMemo.h>
 
 #include <algorithm>
@@ -12,9 +13,6 @@ namespace kob {
 namespace {
 
 constexpr std::size_t chunkCapacity = 256;
-/// Below this many children a walk is as fast as the index, and costs no memory.
-constexpr std::size_t smallestIndexed = 8;
-constexpr std::size_t smallestTable = 16;
 /// The counts that files tell are not trusted with more.
 constexpr std::size_t mostReserved = 16;
 
@@ -88,13 +86,14 @@ void CellList::Remove(std::int32_t position) {
   --count_;
   cursorChunk_ = 0;
   cursorFirst_ = 0;
+  marked_.cells = nullptr;
   if (cell == nullptr) {
     --nothingCount_;
     return;
   }
   cell->removeHolder(*this);
-  if (!index_.empty()) {
-    indexRemove(*cell);
+  if (index_ != nullptr) {
+    index_->remove(*cell);
   }
 }
 
@@ -103,8 +102,8 @@ CellList::Place CellList::endPlace() const noexcept {
 }
 
 void CellList::insert(Place place, std::shared_ptr<KOBCellTraduction> cell) {
-  if (!index_.empty()) {
-    makeIndexRoom();
+  if (index_ != nullptr) {
+    index_->makeRoom();
   }
   treeChanged();
   entriesChanged();
@@ -123,14 +122,16 @@ void CellList::insert(Place place, std::shared_ptr<KOBCellTraduction> cell) {
   if (added == nullptr) {
     ++nothingCount_;
     order_ = Order::Unknown;
+    marked_.cells = nullptr;
     return;
   }
   if (order_ == Order::Sorted && !keepsOrder(place)) {
     order_ = Order::Unknown;
   }
+  markInserted(place);
   added->addHolder(*this);
-  if (!index_.empty()) {
-    indexAdd(*added);
+  if (index_ != nullptr) {
+    index_->add(*added);
   }
 }
 
@@ -148,24 +149,44 @@ CellList::Place CellList::splitAt(Place place) {
 }
 
 KOBCellTraduction* CellList::find(TextView name) const {
-  if (nothingCount_ != 0 || count_ < smallestIndexed) {
-    return walkTo(name);
+  if (count_ <= MarkedCells::most || nothingCount_ != 0) {
+    const MarkedCells* const cells = marked();
+    return cells != nullptr ? cells->find(name) : walkTo(name);
   }
-  if (index_.empty()) {
+  if (index_ == nullptr) {
     buildIndex();
   }
-  const std::size_t mask = index_.size() - 1;
-  const std::uint32_t hash = hashUpper(name);
-  KOBCellTraduction* found = nullptr;
-  for (std::size_t i = hash & mask; index_[i].cell != nullptr; i = (i + 1) & mask) {
-    if (index_[i].hash == hash && equalUpper(index_[i].cell->nom(), name)) {
-      if (found != nullptr) {
-        return walkTo(name);
-      }
-      found = index_[i].cell;
+  const std::optional<KOBCellTraduction*> found = index_->find(name);
+  return found ? *found : walkTo(name);
+}
+
+const MarkedCells* CellList::marked() const noexcept {
+  if (marked_.cells == nullptr) {
+    if (!isShort()) {
+      return nullptr;
     }
+    marked_.count = 0;
+    for (const auto& cell : *this) {
+      marked_.marks[marked_.count++] = MarkedCells::markOf(cell->nom());
+    }
+    marked_.cells = chunks_.front().data();
   }
-  return found;
+  return &marked_;
+}
+
+void CellList::markInserted(Place place) noexcept {
+  if (marked_.cells == nullptr) {
+    return;
+  }
+  if (!isShort()) {
+    marked_.cells = nullptr;
+    return;
+  }
+  const auto at = marked_.marks.begin() + static_cast<std::ptrdiff_t>(place.offset);
+  std::copy_backward(at, marked_.marks.begin() + marked_.count, marked_.marks.begin() + marked_.count + 1);
+  *at = MarkedCells::markOf(chunks_.front()[place.offset]->nom());
+  ++marked_.count;
+  marked_.cells = chunks_.front().data();
 }
 
 KOBCellTraduction* CellList::walkTo(TextView name) const {
@@ -257,73 +278,24 @@ bool CellList::keepsOrder(Place place) const {
 void CellList::beforeRename(KOBCellTraduction& cell) noexcept {
   treeChanged();
   order_ = Order::Unknown;
-  if (!index_.empty()) {
-    indexRemove(cell);
+  marked_.cells = nullptr;
+  if (index_ != nullptr) {
+    index_->remove(cell);
   }
 }
 
 void CellList::afterRename(KOBCellTraduction& cell) {
-  if (!index_.empty()) {
-    indexAdd(cell);
+  if (index_ != nullptr) {
+    index_->add(cell);
   }
 }
 
 void CellList::buildIndex() const {
-  std::size_t size = smallestTable;
-  while (size < count_ * 2) {
-    size *= 2;
-  }
-  index_.assign(size, Slot{0, nullptr});
-  indexed_ = 0;
+  auto index = std::make_unique<NameIndex>(count_);
   for (const auto& cell : *this) {
-    indexAdd(*cell);
+    index->add(*cell);
   }
-}
-
-void CellList::indexAdd(KOBCellTraduction& cell) const {
-  indexPut({hashUpper(cell.nom()), &cell});
-  ++indexed_;
-}
-
-void CellList::makeIndexRoom() {
-  if ((indexed_ + 1) * 4 <= index_.size() * 3) {
-    return;
-  }
-  // By the hashes that are known: reading all the names again would cost more than what is inserted.
-  std::vector<Slot> former(index_.size() * 2, Slot{0, nullptr});
-  former.swap(index_);
-  for (const Slot& slot : former) {
-    if (slot.cell != nullptr) {
-      indexPut(slot);
-    }
-  }
-}
-
-void CellList::indexPut(const Slot& slot) const noexcept {
-  const std::size_t mask = index_.size() - 1;
-  std::size_t i = slot.hash & mask;
-  while (index_[i].cell != nullptr) {
-    i = (i + 1) & mask;
-  }
-  index_[i] = slot;
-}
-
-void CellList::indexRemove(KOBCellTraduction& cell) const noexcept {
-  const std::size_t mask = index_.size() - 1;
-  std::size_t hole = hashUpper(cell.nom()) & mask;
-  while (index_[hole].cell != &cell) {
-    hole = (hole + 1) & mask;
-  }
-  // Entries behind the hole that probed past it move up, so that no look-up stops short of them.
-  for (std::size_t i = (hole + 1) & mask; index_[i].cell != nullptr; i = (i + 1) & mask) {
-    const std::size_t home = index_[i].hash & mask;
-    if (((i - home) & mask) >= ((i - hole) & mask)) {
-      index_[hole] = index_[i];
-      hole = i;
-    }
-  }
-  index_[hole] = {0, nullptr};
-  --indexed_;
+  index_ = std::move(index);
 }
 
 }  // namespace kob

@@ -3,6 +3,7 @@
 
 #include <kobtraduction/base/Export.h>
 #include <kobtraduction/base/Text.h>
+#include <kobtraduction/model/MarkedCells.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -12,6 +13,7 @@
 namespace kob {
 
 class KOBCellTraduction;
+class NameIndex;
 
 /// A cell's children: an ordered list numbered from 1 like OrderedList, that also finds a child by name in
 /// constant time and inserts by name in logarithmic time. Both answers are those of a walk from the first
@@ -55,6 +57,8 @@ class KOB_EXPORT CellList {
   /// A cell of the list is about to lose its present name / has its new name.
   void beforeRename(KOBCellTraduction& cell) noexcept;
   void afterRename(KOBCellTraduction& cell);
+  /// The cells marked, or null for a list that is long or damaged.
+  const MarkedCells* marked() const noexcept;
 
  private:
   /// Items are kept in chunks of bounded size, so that an insertion in the middle moves few of them.
@@ -62,10 +66,6 @@ class KOB_EXPORT CellList {
   struct Place {
     std::size_t chunk;
     std::size_t offset;
-  };
-  struct Slot {
-    std::uint32_t hash;
-    KOBCellTraduction* cell;
   };
   enum class Order : std::uint8_t { Sorted, Unsorted, Unknown };
 
@@ -80,18 +80,17 @@ class KOB_EXPORT CellList {
   /// The place before the first greater name: by halving in a sorted list, by a walk in any other.
   Place upperBound(TextView name) const;
   Place firstGreater(TextView name) const;
+  /// Whether all cells can be marked; they are in a single chunk then, where an offset is a position.
+  bool isShort() const noexcept {
+    return count_ <= MarkedCells::most && chunks_.size() == 1 && nothingCount_ == 0;
+  }
+  /// Keeps the marks right once a cell was put there.
+  void markInserted(Place place) noexcept;
   void buildIndex() const;
-  /// Room for one more cell.
-  void makeIndexRoom();
-  void indexAdd(KOBCellTraduction& cell) const;
-  void indexPut(const Slot& slot) const noexcept;
-  void indexRemove(KOBCellTraduction& cell) const noexcept;
 
   std::vector<Chunk> chunks_;
-  /// Open addressing by the hash of the upper-cased name; empty until the first look-up of a long list. It
-  /// knows no positions, so it survives insertions; equal names are resolved by a walk.
-  mutable std::vector<Slot> index_;
-  mutable std::uint32_t indexed_ = 0;
+  /// None until the first look-up of a long list.
+  mutable std::unique_ptr<NameIndex> index_;
   std::uint32_t count_ = 0;
   std::uint32_t nothingCount_ = 0;
   /// The chunk that was read last and the position of its first item: reading by position in order is
@@ -99,6 +98,8 @@ class KOB_EXPORT CellList {
   mutable std::uint32_t cursorChunk_ = 0;
   mutable std::uint32_t cursorFirst_ = 0;
   mutable Order order_ = Order::Sorted;
+  /// Since the first look-up of a short list.
+  mutable MarkedCells marked_;
 };
 
 /// Walks the list in order; invalid once the list is changed.

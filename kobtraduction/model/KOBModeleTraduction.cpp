@@ -47,14 +47,22 @@ void KOBModeleTraduction::ClearLangue(std::int32_t langue) {
 }
 
 KOBCellTraduction* KOBModeleTraduction::findCell(TextView path) const {
-  if (KOBCellTraduction* const known = known_->find(path)) {
-    return known;
+  const std::size_t separator = path.rfind(u'\\');
+  const bool isChildOfRoot = separator == TextView::npos;
+  const TextView above = isChildOfRoot ? TextView() : path.substr(0, separator);
+  const TextView name = isChildOfRoot ? path : path.substr(separator + 1);
+  if (name.empty()) {
+    return walkTo(path);
   }
-  KOBCellTraduction* const cell = walkTo(path);
-  if (cell != nullptr) {
-    known_->remember(path, *cell);
+  if (const PathMemo::Node* const known = known_->find(above)) {
+    return known->find(name);
   }
-  return cell;
+  KOBCellTraduction* const parent = walkTo(above);
+  if (parent == nullptr) {
+    return nullptr;
+  }
+  known_->remember(above, *parent);
+  return parent->findCell(name);
 }
 
 KOBCellTraduction* KOBModeleTraduction::walkTo(TextView path) const {

@@ -1,4 +1,5 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
+#include <kobtraduction/model/KOBCellTraduction.h>
 #include <kobtraduction/model/PathMemo.h>
 
 #include <utility>
@@ -11,6 +12,8 @@ constexpr std::size_t smallestTable = 64;
 /// Longer paths are not kept: in a tree thousands of levels deep their total length would grow with the
 /// square of the depth.
 constexpr std::size_t longestKept = 1024;
+/// Units of all paths: where each begins is a number of 32 bits.
+constexpr std::size_t mostKept = std::size_t(1) << 30;
 
 /// How often a tree of the thread has changed.
 thread_local std::uint64_t treeState = 0;
@@ -31,55 +34,75 @@ std::uint64_t treeChanges() noexcept {
   return treeState;
 }
 
-KOBCellTraduction* PathMemo::find(TextView path) const noexcept {
+KOBCellTraduction* PathMemo::Node::find(TextView name) const {
+  return children_.cells != nullptr ? children_.find(name) : cell_->findCell(name);
+}
+
+bool PathMemo::isAt(const Node& node, TextView path) const noexcept {
+  return equalToUpper(path, TextView(paths_).substr(node.start_ + 1, paths_[node.start_]));
+}
+
+const PathMemo::Node* PathMemo::find(TextView path) const noexcept {
   if (used_ == 0 || state_ != treeState) {
     return nullptr;
   }
-  const std::size_t mask = slots_.size() - 1;
+  if (isAt(nodes_[last_], path)) {
+    return &nodes_[last_];
+  }
+  const std::size_t mask = nodes_.size() - 1;
   const std::uint32_t hash = hashUpper(path);
-  for (std::size_t i = hash & mask; slots_[i].cell != nullptr; i = (i + 1) & mask) {
-    const Slot& slot = slots_[i];
-    if (slot.hash == hash && equalToUpper(path, TextView(paths_).substr(slot.start, slot.length))) {
-      return slot.cell;
+  for (std::size_t i = hash & mask; nodes_[i].cell_ != nullptr; i = (i + 1) & mask) {
+    if (nodes_[i].hash_ == hash && isAt(nodes_[i], path)) {
+      last_ = i;
+      return &nodes_[i];
     }
   }
   return nullptr;
 }
 
 void PathMemo::remember(TextView path, KOBCellTraduction& cell) {
-  if (path.empty() || path.size() > longestKept || !isPlain(path)) {
+  if (path.size() > longestKept || paths_.size() > mostKept || !isPlain(path)) {
     return;
   }
   if (state_ != treeState) {
-    slots_.clear();
+    nodes_.clear();
     paths_.clear();
     used_ = 0;
     state_ = treeState;
   }
-  if (used_ * 2 >= slots_.size()) {
+  if ((used_ + 1) * 4 > nodes_.size() * 3) {
     grow();
   }
-  const std::size_t start = paths_.size();
+  Node node;
+  node.cell_ = &cell;
+  if (cell.TypeCell() == 1 && cell.ColCell() != nullptr) {
+    const MarkedCells* const children = cell.ColCell()->marked();
+    node.children_ = children != nullptr ? *children : MarkedCells();
+  }
+  node.start_ = static_cast<std::uint32_t>(paths_.size());
+  node.hash_ = hashUpper(path);
+  paths_ += static_cast<char16_t>(path.size());
   paths_ += upper(path);
-  put({&cell, start, static_cast<std::uint32_t>(path.size()), hashUpper(path)});
+  put(node);
   ++used_;
 }
 
-void PathMemo::put(const Slot& slot) noexcept {
-  const std::size_t mask = slots_.size() - 1;
-  std::size_t i = slot.hash & mask;
-  while (slots_[i].cell != nullptr) {
+void PathMemo::put(const Node& node) noexcept {
+  const std::size_t mask = nodes_.size() - 1;
+  std::size_t i = node.hash_ & mask;
+  while (nodes_[i].cell_ != nullptr) {
     i = (i + 1) & mask;
   }
-  slots_[i] = slot;
+  nodes_[i] = node;
+  last_ = i;
 }
 
 void PathMemo::grow() {
-  const std::vector<Slot> old = std::exchange(slots_, {});
-  slots_.resize(old.empty() ? smallestTable : old.size() * 2);
-  for (const Slot& slot : old) {
-    if (slot.cell != nullptr) {
-      put(slot);
+  const std::vector<Node> old = std::exchange(nodes_, {});
+  nodes_.resize(old.empty() ? smallestTable : old.size() * 2);
+  for (const Node& node : old) {
+    if (node.cell_ != nullptr) {
+      put(node);
     }
   }
 }

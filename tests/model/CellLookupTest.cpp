@@ -31,6 +31,29 @@ TEST_F(ChildLookup, IgnoresCase) {
   EXPECT_EQ(node->GetCell(u"éTÉ"), cell);
 }
 
+TEST_F(ChildLookup, TellsNamesApartThatDifferInTheirFirstCharacterOnly) {
+  std::vector<CellRef> cells;
+  for (const TextView name : {u"aName", u"bName", u"cName", u"dName", u"eName"}) {
+    cells.push_back(add(name));
+  }
+  for (const CellRef& cell : cells) {
+    EXPECT_EQ(node->GetCell(cell->nom()), cell);
+  }
+  EXPECT_EQ(node->GetCell(u"fName"), nullptr);
+}
+
+TEST_F(ChildLookup, FindsEveryChildWhileTheListGrowsInAnyOrder) {
+  for (int i = 0; i < 40; ++i) {
+    const CellRef cell = named(u"n" + decimal(i));
+    i % 3 == 0 ? node->ColCell()->Add(cell) : node->ColCell()->Add(cell, i / 2 + 1);
+    for (int known = 0; known <= i; ++known) {
+      const CellRef found = node->GetCell(u"N" + decimal(known));
+      ASSERT_NE(found, nullptr) << known << " of " << i;
+      ASSERT_EQ(found->nom(), u"n" + decimal(known));
+    }
+  }
+}
+
 TEST_F(ChildLookup, FindsNoneWithoutAMessageWhenNothingMatches) {
   add(u"a");
   EXPECT_EQ(node->GetCell(u"x"), nullptr);

@@ -105,5 +105,29 @@ TEST_F(ModelPathAskedBefore, StaysRightAmongThousandsOfPathsThatWereAsked) {
   }
 }
 
+TEST_F(ModelPathAskedBefore, StaysRightBelowThousandsOfNodes) {
+  constexpr int count = 3000;
+  for (int i = 0; i < count; ++i) {
+    b->AddNoeuds(u"n" + decimal(i))->AddNoeuds(u"below" + decimal(i));
+  }
+  for (int pass = 0; pass < 2; ++pass) {
+    for (int i = 0; i < count; ++i) {
+      const CellRef found = model.GetCell(u"a\\b\\N" + decimal(i) + u"\\BELOW" + decimal(i));
+      ASSERT_NE(found, nullptr);
+      ASSERT_EQ(found->nom(), u"below" + decimal(i));
+    }
+  }
+}
+
+TEST_F(ModelPathAskedBefore, EndsAtALeafEvenWithAListThatAHostAssigned) {
+  auto list = std::make_shared<CellList>();
+  list->Add(named(u"x"));
+  c->setColCell(list);
+  for (int pass = 0; pass < 2; ++pass) {
+    EXPECT_EQ(model.GetCell(u"a\\b\\c\\x"), nullptr);
+  }
+  EXPECT_TRUE(boxes.notices.empty());
+}
+
 }  // namespace
 }  // namespace kob::test
