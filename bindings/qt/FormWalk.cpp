@@ -2,6 +2,7 @@
 #include "FormWalk.h"
 
 #include "ActionObject.h"
+#include "FetchObject.h"
 #include "InternalObjects.h"
 #include "TabbedObject.h"
 #include "ToolBarObject.h"
@@ -57,16 +58,24 @@ void FormWalk::visitBelow(QWidget& parent, const Place& place) {
                                      [](const QObject* child) { return child->isWidgetType(); });
   makeRoom(controls_, static_cast<std::size_t>(widgets));
   makeRoom(facts_, static_cast<std::size_t>(widgets));
-  for (QObject* const child : children) {
-    if (child->isWidgetType()) {
-      visitWidget(static_cast<QWidget&>(*child), place);
-    } else if (auto* const action = qobject_cast<QAction*>(child)) {
-      visitOwnedAction(*action);
-    } else {
-      visitPlainObject(*child);
+  constexpr qsizetype places = 8;
+  for (qsizetype i = 0; i < children.size(); ++i) {
+    if (i + places < children.size()) {
+      fetchObject(*children[i + places]);
     }
+    visitChild(*children[i], place);
   }
   visitShownActions(parent, place);
+}
+
+void FormWalk::visitChild(QObject& child, const Place& place) {
+  if (child.isWidgetType()) {
+    visitWidget(static_cast<QWidget&>(child), place);
+  } else if (auto* const action = qobject_cast<QAction*>(&child)) {
+    visitOwnedAction(*action);
+  } else {
+    visitPlainObject(child);
+  }
 }
 
 // Showing a page, or activating a sub-window, moves it among its siblings: they are taken by the container's

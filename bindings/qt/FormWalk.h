@@ -63,6 +63,7 @@ class FormWalk {
   };
 
   void visitBelow(QWidget& parent, const Place& place);
+  void visitChild(QObject& child, const Place& place);
   void visitWidget(QWidget& widget, const Place& place);
   void visitPlainObject(const QObject& object);
   void visitPages(QWidget& parent, const Place& place);

@@ -22,6 +22,7 @@ class ForwardingObject : public HostObject {
   std::optional<std::vector<HostRef>> enumerate() override { return target_->enumerate(); }
   bool mayHave(Property property) const noexcept override { return target_->mayHave(property); }
   bool tellPlace(PlainPlace& place) override { return target_->tellPlace(place); }
+  void fetch() const noexcept override { target_->fetch(); }
   const void* identity() const noexcept override { return target_->identity(); }
 
  protected:

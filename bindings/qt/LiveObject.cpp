@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "LiveObject.h"
 
+#include "FetchObject.h"
 #include "Naming.h"
 #include "QtValue.h"
 
@@ -118,6 +119,12 @@ bool LiveObject::tellPlace(PlainPlace& place) {
     place.name += u'(' + decimal(index_) + u')';
   }
   return true;
+}
+
+void LiveObject::fetch() const noexcept {
+  if (const QObject* const object = live()) {
+    fetchObject(*object);
+  }
 }
 
 const void* LiveObject::identity() const noexcept {

@@ -42,6 +42,7 @@ class LiveObject : public HostObject {
   /// Neither controls nor buttons nor tabs: who has them says so.
   bool mayHave(Property property) const noexcept override;
   bool tellPlace(PlainPlace& place) final;
+  void fetch() const noexcept final;
   const void* identity() const noexcept override;
 
  protected:

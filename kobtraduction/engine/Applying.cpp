@@ -59,6 +59,7 @@ void traduitDialog(const KOBModeleTraduction& model, const HostRef& form, std::i
   ControlCells cells(model, paths);
   // Skip mode to the end.
   for (const HostRef& control : controls) {
+    fetchBehind(controls, control);
     bool shown = true;
     if (onlyVisible) {
       skip(shown, readBoolean(control, Property::Visible));

@@ -3,6 +3,7 @@
 
 #include <kobtraduction/engine/HostObject.h>
 
+#include <cstddef>
 #include <vector>
 
 namespace kob {
@@ -15,5 +16,14 @@ enum class RecordBinding { Unbound, Bound };
 /// button's menu. A form whose "Controls" cannot be read has none; a tool bar that does not answer what it
 /// should fails. Internal.
 std::vector<HostRef> gatherControls(const HostRef& form, RecordBinding binding);
+
+/// Lets a host fetch the control that stands some places behind `control`, one of `controls`. Internal.
+inline void fetchBehind(const std::vector<HostRef>& controls, const HostRef& control) noexcept {
+  constexpr std::ptrdiff_t places = 8;
+  const HostRef* const end = controls.data() + controls.size();
+  if (end - &control > places && (&control)[places] != nullptr) {
+    (&control)[places]->fetch();
+  }
+}
 
 }  // namespace kob

@@ -167,6 +167,7 @@ void harvestForm(const KOBModeleTraduction& model, const HostRef& form, TextView
   ContainerChain containers(formName, onlyVisible, step);
   KeptTexts kept;
   for (const HostRef& control : controls) {
+    fetchBehind(controls, control);
     // Character for character, so that Frame10 passes for Frame1.
     if (onlyContainer != nullptr && !TextView(paths.pathOf(control)).starts_with(wantedStart)) {
       continue;

@@ -83,6 +83,8 @@ bool HostObject::tellPlace(PlainPlace& /*place*/) {
   return false;
 }
 
+void HostObject::fetch() const noexcept {}
+
 const void* HostObject::identity() const noexcept {
   return this;
 }

@@ -95,6 +95,10 @@ class KOB_EXPORT HostObject {
   /// of the application.
   virtual bool tellPlace(PlainPlace& place);
 
+  /// Says that the object is asked soon: a binding whose live objects lie apart in memory may have them
+  /// fetched meanwhile. Runs no code of the application.
+  virtual void fetch() const noexcept;
+
   /// The same for two references to one live object, different for any two others while both are held.
   virtual const void* identity() const noexcept;
 };

@@ -51,6 +51,16 @@ TEST_F(GatheringTest, ButtonsFollowTheirToolBarAndEntriesTheirButton) {
   EXPECT_EQ(captions(), "FrmMain First Open Recent Last Save Late ");
 }
 
+TEST_F(GatheringTest, NothingIsPassedOverHoweverFarBehindItStands) {
+  std::string controls = "form FrmMain\n";
+  for (int i = 0; i < 20; ++i) {
+    controls += "  label Other" + std::to_string(i) + "\n  nothing\n";
+  }
+  given(controls + "  label Late\n");
+  apply(2);
+  EXPECT_EQ(captions(), "FrmMain Late ");
+}
+
 TEST_F(GatheringTest, CountsAreReadOnce) {
   apply(2);
   EXPECT_EQ(form().callTexts([](const HostCall& call) {

@@ -74,4 +74,15 @@ TEST_F(QtShortcut, WhatAnObjectSaysThatItLacksItDoesNotAnswer) {
   }
 }
 
+TEST_F(QtShortcut, FetchingIsNotNoticedAndAnObjectThatIsGoneIsPassedOver) {
+  std::vector<HostRef> objects = controls();
+  objects.push_back(hostForm(&form));
+  const std::vector<HostRef> label = {objects.front()};
+  delete form.findChild<QLabel*>("label");
+  for (const HostRef& each : objects) {
+    each->fetch();
+  }
+  EXPECT_FALSE(label.front()->get(Property::Name));
+}
+
 }  // namespace kob::qt::test
