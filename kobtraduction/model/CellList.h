@@ -46,6 +46,12 @@ class KOB_EXPORT CellList {
   const_iterator begin() const noexcept;
   const_iterator end() const noexcept;
 
+  // Internal: for who wants to fetch the first cells before they are read.
+
+  /// What leads to the first item, and the item; null for an empty list.
+  const void* chunks() const noexcept { return chunks_.data(); }
+  const void* firstItem() const noexcept { return chunks_.empty() ? nullptr : chunks_.front().data(); }
+
   // Internal: for the cell.
 
   /// The first cell in list order whose upper-cased name equals the upper-cased `name`, or null. Fails with

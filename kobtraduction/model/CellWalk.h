@@ -6,6 +6,7 @@
 #include <kobtraduction/model/KOBCellTraduction.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <type_traits>
 #include <vector>
@@ -28,10 +29,15 @@ class CellWalk {
     }
   }
 
+  /// What a walk fetches from memory ahead: cells and the reference texts of their entries, which is what
+  /// most walks read, or cells alone.
+  enum class Ahead : std::uint8_t { Texts, Cells };
+
   /// Calls visit(cell), or visit(cell, depth), for `root` (depth 0) and every cell below it.
   template <class Visit>
-  static void each(KOBCellTraduction& root, Visit&& visit) {
+  static void each(KOBCellTraduction& root, Visit&& visit, Ahead ahead = Ahead::Texts) {
     CellWalk walk;
+    walk.ahead_ = ahead;
     for (KOBCellTraduction* cell = &root; cell != nullptr; cell = walk.next()) {
       if constexpr (std::is_invocable_v<Visit, KOBCellTraduction&, std::size_t>) {
         visit(*cell, walk.open_.size());
@@ -70,8 +76,7 @@ class CellWalk {
       return nullptr;
     }
     if (open_.back().fetched == 0) {
-      // Of the texts, most walks read the reference text and nothing else.
-      open_.back().fetched = fetchCells(open_.back().next, *open_.back().children, sizeof(char16_t));
+      open_.back().fetched = fetchAhead(open_.back());
     }
     --open_.back().fetched;
     KOBCellTraduction* const cell = (*open_.back().next).get();
@@ -82,12 +87,18 @@ class CellWalk {
     return cell;
   }
 
+  int fetchAhead(const Level& level) const noexcept {
+    return ahead_ == Ahead::Cells ? fetchNodes(level.next, *level.children)
+                                  : fetchCells(level.next, *level.children, sizeof(char16_t));
+  }
+
   void leave() noexcept {
     open_.back().cell->isWalked_ = false;
     open_.pop_back();
   }
 
   std::vector<Level> open_;
+  Ahead ahead_ = Ahead::Texts;
 };
 
 }  // namespace kob

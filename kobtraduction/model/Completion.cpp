@@ -13,20 +13,6 @@ namespace kob {
 
 namespace {
 
-/// Whether an entry has a gap in a language from 2 up, or not even an item.
-bool lacksTexts(const TextList& texts) {
-  const std::int32_t last = Global_Util::NbLangues();
-  if (texts.Count() < last) {
-    return true;
-  }
-  for (std::int32_t i = 2; i <= last; ++i) {
-    if (texts.Item(i).empty()) {
-      return true;
-    }
-  }
-  return false;
-}
-
 /// Completes entries with one reference text, whose lists are long enough for every language.
 class GroupCompletion {
  public:
@@ -37,9 +23,7 @@ class GroupCompletion {
     TextList& first = textsOf(*group.front());
     first.FillGaps(texts_);
     // The others' own texts are about to move.
-    for (std::size_t i = 1; i < texts_.size(); ++i) {
-      texts_[i] = first.Item(static_cast<std::int32_t>(i) + 1);
-    }
+    gather(group.first(1));
     for (KOBTraductionObj* const entry : group.subspan(1)) {
       textsOf(*entry).FillGaps(texts_);
     }
@@ -49,15 +33,9 @@ class GroupCompletion {
   /// Of each language but the first the text that the first entry has or would be given.
   void gather(std::span<KOBTraductionObj* const> group) {
     std::fill(texts_.begin(), texts_.end(), TextView());
-    std::size_t missing = texts_.size() - 1;
+    std::size_t missing = texts_.size();
     for (std::size_t entry = 0; entry < group.size() && missing > 0; ++entry) {
-      const TextList& source = textsOf(*group[entry]);
-      for (std::size_t i = 1; i < texts_.size(); ++i) {
-        if (texts_[i].empty()) {
-          texts_[i] = source.Item(static_cast<std::int32_t>(i) + 1);
-          missing -= texts_[i].empty() ? 0 : 1;
-        }
-      }
+      missing = textsOf(*group[entry]).OfferTexts(texts_);
     }
   }
 
@@ -76,40 +54,34 @@ class GroupCompletion {
 // turns need not wait for those of others.
 void KOBModeleTraduction::CompleteIdentiques() {
   SameTexts entries;
-  std::vector<std::uint32_t> lacking;
-  bool isShort = false;
   const std::int32_t last = Global_Util::NbLangues();
   try {
-    CellWalk::each(*racine_, [&](const KOBCellTraduction& cell) {
-      eachEntry(cell, [&](KOBTraductionObj& entry) {
-        const TextList& texts = textsOf(entry);
-        const bool hasGaps = lacksTexts(texts);
-        entries.add(entry, texts.Item(1), hasGaps);
-        isShort = isShort || texts.Count() < last;
-        if (hasGaps) {
-          lacking.push_back(static_cast<std::uint32_t>(entries.count() - 1));
-        }
-      });
-    });
+    const auto add = [&](KOBTraductionObj& entry) { entries.add(entry); };
+    CellWalk::each(
+        *racine_, [&](const KOBCellTraduction& cell) { eachEntry(cell, add); }, CellWalk::Ahead::Cells);
+    entries.read(last);
   } catch (const Failure&) {
     for (std::size_t i = 0; i < entries.count(); ++i) {
       entries.entry(i).CompleteTraduction(entries.entry(0));
     }
     throw;
   }
-  if (lacking.empty()) {
+  if (!entries.anyGaps()) {
     return;
   }
-  if (!isShort) {
+  if (!entries.anyShort()) {
     GroupCompletion completion;
     entries.eachWithGaps([&](std::span<KOBTraductionObj* const> group) { completion.complete(group); });
     return;
   }
   entries.group();
-  for (std::size_t i = 0; i < lacking.size(); ++i) {
-    TextList& target = textsOf(entries.entry(lacking[i]));
-    const std::size_t first = entries.firstOf(lacking[i]);
-    if (first != lacking[i]) {
+  for (std::size_t i = 0; i < entries.count(); ++i) {
+    TextList& target = textsOf(entries.entry(i));
+    if (!target.HasGaps(2, last)) {
+      continue;
+    }
+    const std::size_t first = entries.firstOf(i);
+    if (first != i) {
       target.FillGaps(textsOf(entries.entry(first)), 2, last);
     } else {
       entries.eachOf(

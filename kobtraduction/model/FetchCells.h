@@ -9,19 +9,27 @@
 
 namespace kob {
 
-/// Fetches the cells of a list that come next, and returns how many: 0 at the end. What is read of a cell is
-/// found only through what was read before. So some cells are fetched together, one step of the way for all
-/// of them after the other, and the waiting is shared. Of each cell's first entry so many bytes of its texts
-/// are fetched, too. Internal.
-inline int fetchCells(CellList::const_iterator next, const CellList& list, std::size_t textBytes) noexcept {
-  constexpr int together = 16;
-  const KOBCellTraduction* cells[together];
+// What is read of a cell is found only through what was read before. So some cells are fetched together, one
+// step of the way for all of them after the other, and the waiting is shared.
+
+inline constexpr int cellsFetchedTogether = 16;
+
+/// Fetches the cells of a list that come next into `cells`, and returns how many: 0 at the end. Internal.
+inline int fetchNext(CellList::const_iterator next, const CellList& list,
+                     const KOBCellTraduction* (&cells)[cellsFetchedTogether]) noexcept {
   int count = 0;
-  for (; count < together && next != list.end(); ++next) {
+  for (; count < cellsFetchedTogether && next != list.end(); ++next) {
     cells[count] = (*next).get();
     fetch(cells[count++]);
   }
-  const std::shared_ptr<KOBTraductionObj>* firstEntries[together];
+  return count;
+}
+
+/// The same, and of each cell's first entry so many bytes of its texts. Internal.
+inline int fetchCells(CellList::const_iterator next, const CellList& list, std::size_t textBytes) noexcept {
+  const KOBCellTraduction* cells[cellsFetchedTogether];
+  const int count = fetchNext(next, list, cells);
+  const std::shared_ptr<KOBTraductionObj>* firstEntries[cellsFetchedTogether];
   for (int i = 0; i < count; ++i) {
     const EntryList* const entries = cells[i] != nullptr ? cells[i]->entries() : nullptr;
     firstEntries[i] = entries != nullptr && entries->Count() > 0 ? &*entries->begin() : nullptr;
@@ -37,6 +45,24 @@ inline int fetchCells(CellList::const_iterator next, const CellList& list, std::
       fetchBytes((*firstEntries[i])->textUnits(), textBytes);
     }
   }
+  return count;
+}
+
+/// The same, and of each node where its first children are. Internal.
+inline int fetchNodes(CellList::const_iterator next, const CellList& list) noexcept {
+  constexpr std::size_t firstItems = 160;
+  const KOBCellTraduction* cells[cellsFetchedTogether];
+  const int count = fetchNext(next, list, cells);
+  const auto eachList = [&](auto&& fetchStep) {
+    for (int i = 0; i < count; ++i) {
+      if (cells[i] != nullptr && cells[i]->ColCell() != nullptr) {
+        fetchStep(*cells[i]->ColCell());
+      }
+    }
+  };
+  eachList([](const CellList& children) { fetch(&children); });
+  eachList([](const CellList& children) { fetchBytes(children.chunks(), sizeof(void*)); });
+  eachList([](const CellList& children) { fetchBytes(children.firstItem(), firstItems); });
   return count;
 }
 

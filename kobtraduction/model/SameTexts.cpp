@@ -16,14 +16,33 @@ constexpr unsigned digitBits = 11;
 constexpr unsigned hashBits = 32;
 constexpr std::size_t digits = std::size_t{1} << digitBits;
 
-/// What the texts of an entry need, in bytes.
+/// What the reference text and all texts of an entry need, in bytes.
+constexpr std::size_t usualReference = 64;
 constexpr std::size_t usualTexts = 320;
+
+/// Of one hash, nearly all are spelled alike.
+bool isSameText(TextView a, TextView b) noexcept {
+  return sameUnits(a, b) || equalUpper(a, b);
+}
 
 }  // namespace
 
-void SameTexts::add(KOBTraductionObj& entry, TextView reference, bool hasGaps) {
-  members_.push_back({hashUpper(reference), static_cast<std::uint32_t>(entries_.size()), hasGaps});
-  entries_.push_back(&entry);
+void SameTexts::read(std::int32_t last) {
+  // An entry is found in memory before its texts are.
+  constexpr std::size_t entriesAhead = 24;
+  constexpr std::size_t textsAhead = 12;
+  members_.reserve(entries_.size());
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    if (i + entriesAhead < entries_.size()) {
+      fetch(entries_[i + entriesAhead]);
+      fetchBytes(entries_[i + textsAhead]->textUnits(), usualReference);
+    }
+    const TextList& texts = textsOf(*entries_[i]);
+    const bool hasGaps = texts.HasGaps(2, last);
+    members_.push_back({hashUpper(texts.Item(1)), static_cast<std::uint32_t>(i), hasGaps});
+    anyGaps_ = anyGaps_ || hasGaps;
+    anyShort_ = anyShort_ || texts.Count() < last;
+  }
 }
 
 void SameTexts::group() {
@@ -104,10 +123,13 @@ void SameTexts::orderEntries() {
 }
 
 std::size_t SameTexts::endOfSame(std::size_t start, std::size_t end) const {
-  std::size_t next = start;
+  if (start == end) {
+    return end;
+  }
   const auto reference = [this](std::size_t member) { return textsOf(*ordered_[member]).Item(1); };
-  const TextView text = next < end ? reference(start) : TextView();
-  while (next < end && equalUpper(text, reference(next))) {
+  const TextView text = reference(start);
+  std::size_t next = start + 1;
+  while (next < end && isSameText(text, reference(next))) {
     ++next;
   }
   return next;

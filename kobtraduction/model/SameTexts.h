@@ -12,15 +12,22 @@
 namespace kob {
 
 /// Entries grouped by their reference texts, case ignored, in time linear in their number and without copying
-/// a text. Entries are numbered from 0 as they are added, the same one anew each time; reference texts must
-/// not change meanwhile. Internal.
+/// a text. Entries are numbered from 0 as they are added, the same one anew each time. First all are added,
+/// then they are read, then grouped; reference texts must not change meanwhile. Internal.
 class SameTexts {
  public:
-  void add(KOBTraductionObj& entry, TextView reference, bool hasGaps);
+  void add(KOBTraductionObj& entry) { entries_.push_back(&entry); }
   std::size_t count() const noexcept { return entries_.size(); }
   KOBTraductionObj& entry(std::size_t number) const noexcept { return *entries_[number]; }
 
-  /// Makes the groups, once everything is added.
+  /// Reads the reference texts, and sees where a text is missing from language 2 to `last`. An entry without
+  /// a list fails with ObjectNotSet, one without a reference text with InvalidIndex.
+  void read(std::int32_t last);
+  /// Whether an entry has a gap or not even an item in a language / not even an item.
+  bool anyGaps() const noexcept { return anyGaps_; }
+  bool anyShort() const noexcept { return anyShort_; }
+
+  /// Makes the groups.
   void group();
   /// The first entry of an entry's group.
   std::size_t firstOf(std::size_t number);
@@ -40,9 +47,9 @@ class SameTexts {
       }
     }
   }
-  /// Makes the groups, and calls complete(group) for each of two entries or more of which one was added with
-  /// gaps: its entries in order, as a span of pointers. Groups come in any order, their entries fetched from
-  /// memory ahead.
+  /// Makes the groups, and calls complete(group) for each of two entries or more of which one has gaps: its
+  /// entries in order, as a span of pointers. Groups come in any order, their entries fetched from memory
+  /// ahead.
   template <class Complete>
   void eachWithGaps(Complete&& complete) {
     sortByHash();
@@ -87,6 +94,8 @@ class SameTexts {
   bool isAlone(std::size_t member) const noexcept;
 
   std::vector<KOBTraductionObj*> entries_;
+  bool anyGaps_ = false;
+  bool anyShort_ = false;
   /// Once grouped: the members of a group side by side, in the order of their numbers.
   std::vector<Member> members_;
   /// The entries of the members, and how far these and their texts are fetched.

@@ -45,6 +45,8 @@ class KOB_EXPORT TextList {
   void Remove(std::int32_t position);
   /// Puts a text in the place of another one.
   void Replace(std::int32_t position, TextView text);
+  /// Whether a text from position `first`, at least 1, to `last` is "" or not there.
+  bool HasGaps(std::int32_t first, std::int32_t last) const noexcept;
   /// Puts the texts of `source` in the place of this list's own that are "", from position `first` to `last`;
   /// whether some of these remain. Fails with InvalidIndex at the first position that this list lacks, or
   /// that `source` lacks and this list wants, and has filled those before it.
@@ -52,6 +54,9 @@ class KOB_EXPORT TextList {
   /// Puts these texts in the place of the list's own that are "", item by item. They are not more than the
   /// list has and lie apart from it; the first is "", as a reference text is no gap.
   void FillGaps(std::span<const TextView> texts);
+  /// Puts the list's own texts behind the first in the place of those that are "", item by item; how many are
+  /// "" then. They are not more than the list has.
+  std::size_t OfferTexts(std::span<TextView> texts) const noexcept;
   /// Appends so many "".
   void AddEmpty(std::int32_t count);
 

@@ -34,6 +34,26 @@ void TextList::makeFilledRun(std::size_t growth, TextFor textFor) {
   takeRun(std::move(run), total);
 }
 
+bool TextList::HasGaps(std::int32_t first, std::int32_t last) const noexcept {
+  if (first > last) {
+    return false;
+  }
+  if (Count() < last) {
+    return true;
+  }
+  if (units_ == nullptr) {
+    return true;
+  }
+  std::uint32_t begin = start(static_cast<std::uint32_t>(first) - 1);
+  for (const std::uint32_t end : std::span(ends() + first - 1, ends() + last)) {
+    if (end == begin) {
+      return true;
+    }
+    begin = end;
+  }
+  return false;
+}
+
 bool TextList::FillGaps(const TextList& source, std::int32_t first, std::int32_t last) {
   std::size_t growth = 0;
   bool remain = false;
@@ -70,6 +90,24 @@ bool TextList::FillGaps(const TextList& source, std::int32_t first, std::int32_t
     throw Failure(FailureKind::InvalidIndex);
   }
   return remain;
+}
+
+std::size_t TextList::OfferTexts(std::span<TextView> texts) const noexcept {
+  if (units_ == nullptr) {
+    return texts.size();
+  }
+  const std::uint32_t* const ownEnds = ends();
+  std::uint32_t begin = start(1);
+  std::size_t missing = 0;
+  for (std::size_t item = 1; item < texts.size(); ++item) {
+    const std::uint32_t end = ownEnds[item];
+    if (texts[item].empty()) {
+      texts[item] = TextView(units_ + begin, end - begin);
+      missing += end == begin ? 1 : 0;
+    }
+    begin = end;
+  }
+  return missing;
 }
 
 void TextList::FillGaps(std::span<const TextView> texts) {
