@@ -27,16 +27,22 @@ class ContainerWriter {
  private:
   void start();
   void put(const Byte* bytes, std::size_t size);
-  void flush();
+  void checkLength() const;
+  /// Adds to the checksum what it lacks up to there.
+  void sumTo(const Byte* end) noexcept;
 
   WritableFile& file_;
   const ProgIdTable& classes_;
-  std::unique_ptr<Byte[]> buffer_;
+  /// The buffer, with room in front of it for what the checksum lacks of the one before, and behind it for
+  /// the checksum.
+  std::unique_ptr<Byte[]> memory_;
+  Byte* buffer_;
   std::size_t used_ = 0;
   std::uint64_t length_ = 0;
   std::uint64_t units_ = 0;
   std::uint64_t records_ = 0;
-  bool isStarted_ = false;
+  /// Up to where the checksum has come.
+  const Byte* unsummed_ = nullptr;
   Checksum checksum_;
 };
 

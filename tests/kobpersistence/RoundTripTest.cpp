@@ -1,4 +1,5 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
+#include "MemoryStorage.h"
 #include "ServiceTest.h"
 
 namespace kob::test {
@@ -35,6 +36,27 @@ TEST_F(RoundTripTest, ANewModelComesBackAsARootWithoutChildren) {
   ASSERT_TRUE(loaded.Load(name("m.trad"))) << lastNotice();
   EXPECT_EQ(loaded.Racine()->nom(), u"RACINE");
   EXPECT_EQ(loaded.Racine()->ColCell()->Count(), 0);
+}
+
+TEST_F(RoundTripTest, AFileOfAnyLengthAroundWhatIsWrittenTogetherComesBack) {
+  constexpr std::size_t together = 256 * 1024;
+  constexpr std::size_t around = 48;
+  const MemoryService service;
+  // A unit more is a byte more.
+  const auto sizeWith = [&service](const Text& text) {
+    KOBModeleTraduction saved;
+    saved.Racine()->AddMessage(u"m", text);
+    saved.Save(u"m");
+    return service.storage.files.at(u"m").size();
+  };
+  const std::size_t beside = sizeWith(Text(together, u'x')) - together;
+  for (std::size_t size = together - around; size < together + around; ++size) {
+    const Text text(size - beside, u'x');
+    ASSERT_EQ(sizeWith(text), size);
+    KOBModeleTraduction loaded;
+    ASSERT_TRUE(loaded.Load(u"m")) << size << ": " << lastNotice();
+    ASSERT_TRUE(loaded.GetTraduction(u"m", 1, u"") == text) << size;
+  }
 }
 
 TEST_F(RoundTripTest, NothingIsLeftBesideTheFile) {
