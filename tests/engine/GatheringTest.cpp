@@ -148,7 +148,8 @@ TEST_F(GatheringTest, SubControlsFollowTheirControlOneLevelDeep) {
   )");
   givenModel(R"(
     FrmMain node
-      First node
+      First node control left=1 width=1
+        .Caption "" 2="First"
         Sub node control left=1 width=1
           .Caption "" 2="Sub"
           SubSub control left=1 width=1
@@ -158,7 +159,7 @@ TEST_F(GatheringTest, SubControlsFollowTheirControlOneLevelDeep) {
   )");
   model.Racine()->ColCell()->Remove(1);
   apply(2);
-  EXPECT_EQ(captions(), "Sub Late ");
+  EXPECT_EQ(captions(), "First Sub Late ");
 }
 
 TEST_F(GatheringTest, SubControlsThatCannotBeEnumeratedEndTheCall) {
