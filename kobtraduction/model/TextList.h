@@ -54,8 +54,9 @@ class KOB_EXPORT TextList {
   /// Puts these texts in the place of the list's own that are "", item by item. They are not more than the
   /// list has and lie apart from it; the first is "", as a reference text is no gap.
   void FillGaps(std::span<const TextView> texts);
-  /// Puts the list's own texts behind the first in the place of those that are "", item by item; how many are
-  /// "" then. They are not more than the list has.
+  /// Puts the list's own texts behind the first in the place of those that are "", item by item; 0 when none
+  /// behind the first is "" then. They are not more than the list has. A list whose texts are all "" has
+  /// nothing to offer, and does not look: it answers as if all were missing.
   std::size_t OfferTexts(std::span<TextView> texts) const noexcept;
   /// Appends so many "".
   void AddEmpty(std::int32_t count);
