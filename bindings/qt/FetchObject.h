@@ -2,29 +2,24 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 namespace kob::qt {
 
-/// Tells the processor that a widget's or an action's own data are read soon: all but a few words of an
-/// object of the toolkit lie behind a pointer, in memory of their own.
-inline void fetchObject(const QObject& object) noexcept {
-#if defined(__GNUC__)
-  struct Data : QObject {
-    static const char* of(const QObject& object) noexcept {
-      return reinterpret_cast<const char*>((object.*(&Data::d_ptr)).data());
-    }
-  };
-  constexpr int usualSize = 704;
-  constexpr int cacheLine = 64;
-  const char* const data = Data::of(object);
-  // Without this the compiler takes the function for one that does nothing, and leaves its calls out.
-  asm volatile("" : : "r"(data));
-  for (int offset = 0; offset < usualSize; offset += cacheLine) {
-    __builtin_prefetch(data + offset);
-  }
-#else
-  static_cast<void>(object);
-#endif
-}
+// Objects of the toolkit lie apart in memory, and all but a few words of each behind a pointer, in memory of
+// their own. Here the processor is told what is read soon, so that nobody waits for it then. Functions that
+// take an address read nothing there: what it was the address of may be gone.
+
+/// Where a widget's or an action's own data are.
+const char* dataOf(const QObject& object) noexcept;
+
+/// Fetches an object's own data.
+void fetchData(const char* data) noexcept;
+
+/// Fetches the object that a guarded pointer leads to, and the guard that tells whether it lives.
+void fetchGuarded(const QPointer<QObject>& pointer) noexcept;
+
+/// Fetches the siblings that a walk comes to some places behind `at`, and what stands in them.
+void fetchSiblings(const QObjectList& siblings, qsizetype at) noexcept;
 
 }  // namespace kob::qt

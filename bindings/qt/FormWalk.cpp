@@ -58,11 +58,8 @@ void FormWalk::visitBelow(QWidget& parent, const Place& place) {
                                      [](const QObject* child) { return child->isWidgetType(); });
   makeRoom(controls_, static_cast<std::size_t>(widgets));
   makeRoom(facts_, static_cast<std::size_t>(widgets));
-  constexpr qsizetype places = 8;
   for (qsizetype i = 0; i < children.size(); ++i) {
-    if (i + places < children.size()) {
-      fetchObject(*children[i + places]);
-    }
+    fetchSiblings(children, i);
     visitChild(*children[i], place);
   }
   visitShownActions(parent, place);

@@ -31,7 +31,7 @@ bool hasTagOrIndex(const QObject& object) {
 }  // namespace
 
 LiveObject::LiveObject(QObject& object, HostRef owner, Link link)
-    : object_(&object), owner_(std::move(owner)), link_(link) {}
+    : object_(&object), data_(dataOf(object)), owner_(std::move(owner)), link_(link) {}
 
 std::optional<Value> LiveObject::get(Property property) {
   QObject* const object = live();
@@ -122,9 +122,8 @@ bool LiveObject::tellPlace(PlainPlace& place) {
 }
 
 void LiveObject::fetch() const noexcept {
-  if (const QObject* const object = live()) {
-    fetchObject(*object);
-  }
+  fetchGuarded(object_);
+  fetchData(data_);
 }
 
 const void* LiveObject::identity() const noexcept {

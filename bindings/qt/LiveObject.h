@@ -62,6 +62,8 @@ class LiveObject : public HostObject {
   bool writeTag(QObject& object, const Value& value);
 
   QPointer<QObject> object_;
+  /// What is fetched ahead, and never read through this pointer.
+  const char* data_;
   HostRef owner_;
   std::unique_ptr<QVariant> blankedTag_;
   std::int32_t index_ = -1;

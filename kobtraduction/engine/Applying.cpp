@@ -8,6 +8,8 @@
 #include <kobtraduction/model/KOBModeleTraduction.h>
 
 #include <exception>
+#include <utility>
+#include <vector>
 
 namespace kob {
 
@@ -54,12 +56,16 @@ void traduitDialog(const KOBModeleTraduction& model, const HostRef& form, std::i
       cell->TraduitCtrl(form, langue, {}, false, false);
     }
   }
-  const std::vector<HostRef> controls = gatherControls(form, RecordBinding::Bound);
+  std::vector<HostRef> controls = gatherControls(form, RecordBinding::Bound);
 
-  ControlCells cells(model, paths);
+  ControlCells cells(model, paths, langue);
+  HostRef control;
+  HostRef previous;
   // Skip mode to the end.
-  for (const HostRef& control : controls) {
-    fetchBehind(controls, control);
+  for (HostRef& next : controls) {
+    fetchBehind(controls, next);
+    // A control is let go of soon after its turn: its memory is still at hand then.
+    previous = std::exchange(control, std::move(next));
     bool shown = true;
     if (onlyVisible) {
       skip(shown, readBoolean(control, Property::Visible));

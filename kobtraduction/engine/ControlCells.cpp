@@ -10,12 +10,14 @@ namespace kob {
 namespace {
 
 /// What is found below a container is read soon, unless there is so much of it that it would be gone by then.
-void fetchChildren(const KOBCellTraduction* cell) noexcept {
+void fetchChildren(const KOBCellTraduction* cell, std::int32_t langue) noexcept {
   constexpr std::int32_t few = 16;
-  constexpr std::size_t usualTexts = 128;
   const CellList* const children = cell != nullptr ? cell->ColCell().get() : nullptr;
   if (children != nullptr && children->Count() <= few) {
-    fetchCells(children->begin(), *children, usualTexts);
+    fetchCells(children->begin(), *children, [langue](const KOBTraductionObj& entry) {
+      const TextView text = entry.textAt(langue);
+      fetchBytes(text.data(), text.size() * sizeof(char16_t));
+    });
   }
 }
 
@@ -26,7 +28,11 @@ std::optional<KOBCellTraduction*> ControlCells::find(const HostRef& control) {
     return std::nullopt;
   }
   const Start& start = startOf(*place_.container, place_.link);
-  previous_ = {&control, place_.link, start.cell ? followPath(*start.cell, place_.name) : std::nullopt};
+  previous_ = {control.get(), place_.link, start.cell ? followPath(*start.cell, place_.name) : std::nullopt};
+  if (previous_.cell && *previous_.cell != nullptr) {
+    // What stands in a container is looked for next.
+    fetch((*previous_.cell)->ColCell().get());
+  }
   return previous_.cell;
 }
 
@@ -45,7 +51,7 @@ const ControlCells::Start& ControlCells::startOf(const HostRef& container, Prope
   if (start.container == nullptr) {
     start = {container, link, cellAt(container, link)};
     if (start.cell) {
-      fetchChildren(*start.cell);
+      fetchChildren(*start.cell, langue_);
     }
   }
   last_ = &start;
@@ -55,7 +61,7 @@ const ControlCells::Start& ControlCells::startOf(const HostRef& container, Prope
 std::optional<KOBCellTraduction*> ControlCells::cellAt(const HostRef& container, Property link) {
   // A control that told its place has no context, so its path is also what the paths inside it begin with.
   if (previous_.control != nullptr && previous_.link == link &&
-      (*previous_.control)->identity() == container->identity()) {
+      previous_.control->identity() == container->identity()) {
     return previous_.cell;
   }
   return followPath(model_.Racine().get(), paths_.pathInside(container, link));

@@ -18,12 +18,12 @@ class KOBModeleTraduction;
 /// That cell is kept by the container's identity until a tree of the thread changes. Internal.
 class ControlCells {
  public:
-  /// Both must outlive this.
-  ControlCells(const KOBModeleTraduction& model, ControlPaths& paths) noexcept
-      : model_(model), paths_(paths) {}
+  /// Model and paths must outlive this. The texts in `langue` are those that are read next.
+  ControlCells(const KOBModeleTraduction& model, ControlPaths& paths, std::int32_t langue) noexcept
+      : model_(model), paths_(paths), langue_(langue) {}
 
   /// Null for no cell. Empty when only the whole path tells; no property of the control was read then. The
-  /// cell is there until the host's code runs or a tree changes. The reference must live until the next call.
+  /// cell is there until the host's code runs or a tree changes. The control must live until the next call.
   std::optional<KOBCellTraduction*> find(const HostRef& control);
 
  private:
@@ -41,6 +41,7 @@ class ControlCells {
 
   const KOBModeleTraduction& model_;
   ControlPaths& paths_;
+  const std::int32_t langue_;
   PlainPlace place_;
   Starts byContainer_;
   Starts byParent_;
@@ -48,7 +49,7 @@ class ControlCells {
   const Start* last_ = nullptr;
   /// and the first of them their container.
   struct Previous {
-    const HostRef* control = nullptr;
+    const HostObject* control = nullptr;
     Property link = Property::Container;
     std::optional<KOBCellTraduction*> cell;
   } previous_;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #pragma once
 
+#include <kobtraduction/base/Fetch.h>
 #include <kobtraduction/engine/HostObject.h>
 
 #include <cstddef>
@@ -17,11 +18,19 @@ enum class RecordBinding { Unbound, Bound };
 /// should fails. Internal.
 std::vector<HostRef> gatherControls(const HostRef& form, RecordBinding binding);
 
-/// Lets a host fetch the control that stands some places behind `control`, one of `controls`. Internal.
+/// Lets a host fetch the control that stands some places behind `control`, one of `controls`; what leads
+/// there is fetched before that. Internal.
 inline void fetchBehind(const std::vector<HostRef>& controls, const HostRef& control) noexcept {
   constexpr std::ptrdiff_t places = 8;
-  const HostRef* const end = controls.data() + controls.size();
-  if (end - &control > places && (&control)[places] != nullptr) {
+  constexpr std::size_t usualObject = 96;
+  const std::ptrdiff_t left = controls.data() + controls.size() - &control;
+  if (left > 4 * places) {
+    fetch(&control + 4 * places);
+  }
+  if (left > 2 * places) {
+    fetchBytes((&control)[2 * places].get(), usualObject);
+  }
+  if (left > places && (&control)[places] != nullptr) {
     (&control)[places]->fetch();
   }
 }

@@ -4,7 +4,9 @@
 #include <kobtraduction/base/Fetch.h>
 #include <kobtraduction/model/KOBCellTraduction.h>
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 
 namespace kob {
@@ -25,27 +27,45 @@ inline int fetchNext(CellList::const_iterator next, const CellList& list,
   return count;
 }
 
-/// The same, and of each cell's first entry so many bytes of its texts. Internal.
-inline int fetchCells(CellList::const_iterator next, const CellList& list, std::size_t textBytes) noexcept {
+/// The same, and of each cell its name and its first entries, a caption and a tool tip; then calls
+/// fetchTexts(entry) for these. Internal.
+template <class FetchTexts>
+int fetchCells(CellList::const_iterator next, const CellList& list, FetchTexts&& fetchTexts) noexcept {
+  constexpr std::int32_t entriesFetched = 2;
+  constexpr std::size_t usualName = 32;
   const KOBCellTraduction* cells[cellsFetchedTogether];
   const int count = fetchNext(next, list, cells);
-  const std::shared_ptr<KOBTraductionObj>* firstEntries[cellsFetchedTogether];
+  const std::shared_ptr<KOBTraductionObj>* entries[cellsFetchedTogether * entriesFetched];
+  int found = 0;
   for (int i = 0; i < count; ++i) {
-    const EntryList* const entries = cells[i] != nullptr ? cells[i]->entries() : nullptr;
-    firstEntries[i] = entries != nullptr && entries->Count() > 0 ? &*entries->begin() : nullptr;
-    fetch(firstEntries[i]);
-  }
-  for (int i = 0; i < count; ++i) {
-    if (firstEntries[i] != nullptr) {
-      fetch(firstEntries[i]->get());
+    if (cells[i] == nullptr) {
+      continue;
+    }
+    fetchBytes(cells[i]->nom().data(), usualName);
+    const EntryList* const held = cells[i]->entries();
+    const std::int32_t few = held != nullptr ? std::min(held->Count(), entriesFetched) : 0;
+    for (std::int32_t entry = 0; entry < few; ++entry) {
+      entries[found++] = &*held->begin() + entry;
+    }
+    if (few > 0) {
+      fetch(&*held->begin());
     }
   }
-  for (int i = 0; i < count; ++i) {
-    if (firstEntries[i] != nullptr && *firstEntries[i] != nullptr) {
-      fetchBytes((*firstEntries[i])->textUnits(), textBytes);
+  for (int i = 0; i < found; ++i) {
+    fetch(entries[i]->get());
+  }
+  for (int i = 0; i < found; ++i) {
+    if (*entries[i] != nullptr) {
+      fetchTexts(**entries[i]);
     }
   }
   return count;
+}
+
+/// The same, and so many bytes of the texts. Internal.
+inline int fetchCells(CellList::const_iterator next, const CellList& list, std::size_t textBytes) noexcept {
+  return fetchCells(next, list,
+                    [textBytes](const KOBTraductionObj& entry) { fetchBytes(entry.textUnits(), textBytes); });
 }
 
 /// The same, and of each node where its first children are. Internal.

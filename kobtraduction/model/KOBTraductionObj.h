@@ -58,6 +58,11 @@ class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream,
     const TextList* const list = colTraduction_.get();
     return list != nullptr ? list->units() : nullptr;
   }
+  /// The text of a language where there is one, else "".
+  TextView textAt(std::int32_t langue) const noexcept {
+    const TextList* const list = colTraduction_.get();
+    return list != nullptr && langue >= 1 && langue <= list->Count() ? list->Item(langue) : TextView();
+  }
   /// ColTraduction without taking a reference, or ObjectNotSet.
   TextList& texts() const {
     TextList* const list = colTraduction_.get();

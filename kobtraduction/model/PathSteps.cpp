@@ -16,7 +16,7 @@ TextView takeSegment(TextView& path) noexcept {
 
 std::optional<KOBCellTraduction*> followPath(KOBCellTraduction* start, TextView path) {
   KOBCellTraduction* cell = start;
-  while (cell != nullptr) {
+  while (cell != nullptr && !path.empty()) {
     const TextView segment = takeSegment(path);
     if (segment.empty()) {
       break;
