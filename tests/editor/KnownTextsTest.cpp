@@ -79,6 +79,17 @@ TEST_F(EditorKnownTexts, ComeWithAnAddedCell) {
   EXPECT_EQ(known.of(u"non")->Item(2), u"No");
 }
 
+TEST_F(EditorKnownTexts, ComeWithTheReferenceTextThatARemovedOneUncovers) {
+  const CellRef other = message(form, u"c", {u"Un", u"Deux", u"Trois", {}, {}, {}});
+  const std::shared_ptr<TextList> texts = other->Traduction()->ColTraduction();
+  // As many as there are languages, also without one.
+  texts->Add({});
+  KnownTexts known(model);
+  ASSERT_EQ(known.of(u"Deux")->Item(2), u"");
+  texts->Remove(1);
+  EXPECT_EQ(known.of(u"Deux")->Item(2), u"Trois");
+}
+
 TEST_F(EditorKnownTexts, StayWhenANameOrATranslationChanges) {
   KnownTexts known(model);
   ASSERT_EQ(known.of(u"Oui")->Item(2), u"Yes");

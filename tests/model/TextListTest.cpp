@@ -85,16 +85,16 @@ TEST(TextListOf, MixesViewsAndOwnTexts) {
 TEST(TextListOf, ReplacingAViewInAnEntryLeavesTheImageAlone) {
   const std::int32_t before = Global_Util::NbLangues();
   Global_Util::setNbLangues(2);
-  const auto image = std::make_shared<const Text>(u"view");
+  const auto image = std::make_shared<const Text>(u"FichierEdition");
   KOBTraductionObj made;
   const auto list = std::make_shared<TextList>();
   list->setImage(image);
-  list->AddView(*image);
-  list->AddView(*image);
+  list->AddView(TextView(*image).substr(0, 7));
+  list->AddView(TextView(*image).substr(7));
   made.setColTraduction(list);
-  made.ChangeTraduction(u"other", 2);
-  EXPECT_EQ(texts(*list), (Texts{u"view", u"other"}));
-  EXPECT_EQ(*image, u"view");
+  made.ChangeTraduction(u"Vue", 2);
+  EXPECT_EQ(texts(*list), (Texts{u"Fichier", u"Vue"}));
+  EXPECT_EQ(*image, u"FichierEdition");
   Global_Util::setNbLangues(before);
 }
 
