@@ -55,7 +55,7 @@ void fetchData(const char* data) noexcept {
 void fetchGuarded(const QPointer<QObject>& pointer) noexcept {
   const void* ends[2];
   static_assert(sizeof(ends) == sizeof(pointer));
-  std::memcpy(ends, &pointer, sizeof(ends));
+  std::memcpy(ends, static_cast<const void*>(&pointer), sizeof(ends));
   fetchBytes(ends[0], 1);
   fetchBytes(ends[1], 1);
 }
@@ -72,8 +72,7 @@ void fetchSiblings(const QObjectList& siblings, qsizetype at) noexcept {
   }
   if (left > places / 2) {
     const QObjectList& inside = siblings[at + places / 2]->children();
-    fetchBytes(inside.data(),
-               sizeof(QObject*) * static_cast<std::size_t>(std::min(inside.size(), fewInside)));
+    fetchBytes(inside.data(), sizeof(void*) * static_cast<std::size_t>(std::min(inside.size(), fewInside)));
   }
   if (left > 2) {
     eachInside(*siblings[at + 2], [](const QObject* object) { fetchBytes(object, sizeof(QWidget)); });
