@@ -64,6 +64,14 @@ TEST_F(EditorKnownTexts, GoWithOtherEntries) {
   expectGoneAfter([&] { control->setColTraduction(other); });
 }
 
+TEST_F(EditorKnownTexts, GoWithARemovedEntry) {
+  cell->setTypeFeuille(0);
+  const CellRef control = kob::test::control(form, u"c", {caption(u"Oui", u"Yes")});
+  const std::shared_ptr<EntryList> entries = control->ColTraduction();
+  const EntryRef kept = entries->Item(1);
+  expectGoneAfter([&] { entries->Remove(1); });
+}
+
 TEST_F(EditorKnownTexts, GoWithAMovedList) {
   expectGoneAfter([this] {
     TextList moved(std::move(*cell->Traduction()->ColTraduction()));
