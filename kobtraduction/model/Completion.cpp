@@ -53,13 +53,13 @@ class GroupCompletion {
 // the turn of the very first entry of the walk. Where every list is long enough nothing fails, and a group's
 // turns need not wait for those of others.
 void KOBModeleTraduction::CompleteIdentiques() {
-  SameTexts entries;
   const std::int32_t last = Global_Util::NbLangues();
+  SameTexts entries(last);
   try {
     const auto add = [&](KOBTraductionObj& entry) { entries.add(entry); };
     CellWalk::each(
         *racine_, [&](const KOBCellTraduction& cell) { eachEntry(cell, add); }, CellWalk::Ahead::Cells);
-    entries.read(last);
+    entries.readRest();
   } catch (const Failure&) {
     for (std::size_t i = 0; i < entries.count(); ++i) {
       entries.entry(i).CompleteTraduction(entries.entry(0));

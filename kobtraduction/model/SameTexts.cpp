@@ -16,6 +16,11 @@ constexpr unsigned digitBits = 11;
 constexpr unsigned hashBits = 32;
 constexpr std::size_t digits = std::size_t{1} << digitBits;
 
+/// How many entries lie between the one that is fetched from memory, the one whose texts are fetched next,
+/// and the one that is read.
+constexpr std::size_t entriesAhead = 24;
+constexpr std::size_t textsAhead = 12;
+
 /// What the reference text and all texts of an entry need, in bytes.
 constexpr std::size_t usualReference = 64;
 constexpr std::size_t usualTexts = 320;
@@ -27,22 +32,31 @@ bool isSameText(TextView a, TextView b) noexcept {
 
 }  // namespace
 
-void SameTexts::read(std::int32_t last) {
-  // An entry is found in memory before its texts are.
-  constexpr std::size_t entriesAhead = 24;
-  constexpr std::size_t textsAhead = 12;
-  members_.reserve(entries_.size());
-  for (std::size_t i = 0; i < entries_.size(); ++i) {
-    if (i + entriesAhead < entries_.size()) {
-      fetch(entries_[i + entriesAhead]);
-      fetchBytes(entries_[i + textsAhead]->textUnits(), usualReference);
-    }
-    const TextList& texts = textsOf(*entries_[i]);
-    const bool hasGaps = texts.HasGaps(2, last);
-    members_.push_back({hashUpper(texts.Item(1)), static_cast<std::uint32_t>(i), hasGaps});
-    anyGaps_ = anyGaps_ || hasGaps;
-    anyShort_ = anyShort_ || texts.Count() < last;
+void SameTexts::add(KOBTraductionObj& entry) {
+  entries_.push_back(&entry);
+  fetch(&entry);
+  const std::size_t count = entries_.size();
+  if (count > entriesAhead - textsAhead) {
+    fetchBytes(entries_[count - 1 - (entriesAhead - textsAhead)]->textUnits(), usualReference);
   }
+  if (count > entriesAhead) {
+    readNext();
+  }
+}
+
+void SameTexts::readRest() {
+  while (members_.size() < entries_.size()) {
+    readNext();
+  }
+}
+
+void SameTexts::readNext() {
+  const std::size_t i = members_.size();
+  const TextList& texts = textsOf(*entries_[i]);
+  const bool hasGaps = texts.HasGaps(2, last_);
+  members_.push_back({hashUpper(texts.Item(1)), static_cast<std::uint32_t>(i), hasGaps});
+  anyGaps_ = anyGaps_ || hasGaps;
+  anyShort_ = anyShort_ || texts.Count() < last_;
 }
 
 void SameTexts::group() {
@@ -96,7 +110,10 @@ void SameTexts::splitRun(std::size_t start) {
   while (end < members_.size() && start_[members_[end].number] == start) {
     ++end;
   }
-  sortByText(start, end);
+  const auto place = [this](std::size_t i) { return members_.begin() + static_cast<std::ptrdiff_t>(i); };
+  std::stable_sort(place(start), place(end), [this](const Member& a, const Member& b) {
+    return lessUpper(reference(a.number), reference(b.number));
+  });
   for (std::size_t i = start; i < end; ++i) {
     if (!isSame(members_[i].number, members_[start].number)) {
       start = i;
@@ -105,21 +122,36 @@ void SameTexts::splitRun(std::size_t start) {
   }
 }
 
-void SameTexts::sortByText(std::size_t start, std::size_t end) {
-  const auto place = [this](std::size_t i) { return members_.begin() + static_cast<std::ptrdiff_t>(i); };
-  std::stable_sort(place(start), place(end), [this](const Member& a, const Member& b) {
-    return lessUpper(reference(a.number), reference(b.number));
-  });
-  for (std::size_t i = start; i < end && !ordered_.empty(); ++i) {
-    ordered_[i] = entries_[members_[i].number];
+void SameTexts::orderRunsWithGaps() {
+  sortByHash();
+  const auto count = static_cast<std::uint32_t>(members_.size());
+  // By the number of a run's first entry, as memory is best read in the order of the walk.
+  start_.assign(count, count);
+  for (std::uint32_t start = 0, end = 0; start < count; start = end) {
+    bool hasGaps = false;
+    for (end = start; end < count && members_[end].hash == members_[start].hash; ++end) {
+      hasGaps = hasGaps || members_[end].hasGaps != 0;
+    }
+    if (hasGaps && end - start > 1) {
+      start_[members_[start].number] = start;
+    }
+  }
+  ordered_.reserve(count);
+  for (const std::uint32_t start : start_) {
+    for (std::uint32_t i = start; i < count && members_[i].hash == members_[start].hash; ++i) {
+      ordered_.push_back(entries_[members_[i].number]);
+    }
+    if (start < count) {
+      ends_.push_back(static_cast<std::uint32_t>(ordered_.size()));
+    }
   }
 }
 
-void SameTexts::orderEntries() {
-  ordered_.resize(members_.size());
-  for (std::size_t i = 0; i < members_.size(); ++i) {
-    ordered_[i] = entries_[members_[i].number];
-  }
+void SameTexts::sortByText(std::size_t start, std::size_t end) {
+  const auto place = [this](std::size_t i) { return ordered_.begin() + static_cast<std::ptrdiff_t>(i); };
+  std::stable_sort(place(start), place(end), [](const KOBTraductionObj* a, const KOBTraductionObj* b) {
+    return lessUpper(textsOf(*a).Item(1), textsOf(*b).Item(1));
+  });
 }
 
 std::size_t SameTexts::endOfSame(std::size_t start, std::size_t end) const {
@@ -135,26 +167,14 @@ std::size_t SameTexts::endOfSame(std::size_t start, std::size_t end) const {
   return next;
 }
 
-bool SameTexts::isAlone(std::size_t member) const noexcept {
-  const std::uint32_t hash = members_[member].hash;
-  return (member == 0 || members_[member - 1].hash != hash) &&
-         (member + 1 == members_.size() || members_[member + 1].hash != hash);
-}
-
 void SameTexts::fetchBehind(std::size_t end) noexcept {
-  constexpr std::size_t entriesAhead = 24;
-  constexpr std::size_t textsAhead = 12;
-  for (const std::size_t last = std::min(end + entriesAhead, members_.size()); fetchedEntries_ < last;
+  for (const std::size_t last = std::min(end + entriesAhead, ordered_.size()); fetchedEntries_ < last;
        ++fetchedEntries_) {
-    if (!isAlone(fetchedEntries_)) {
-      fetch(ordered_[fetchedEntries_]);
-    }
+    fetch(ordered_[fetchedEntries_]);
   }
-  for (const std::size_t last = std::min(end + textsAhead, members_.size()); fetchedTexts_ < last;
+  for (const std::size_t last = std::min(end + textsAhead, ordered_.size()); fetchedTexts_ < last;
        ++fetchedTexts_) {
-    if (!isAlone(fetchedTexts_)) {
-      fetchBytes(ordered_[fetchedTexts_]->textUnits(), usualTexts);
-    }
+    fetchBytes(ordered_[fetchedTexts_]->textUnits(), usualTexts);
   }
 }
 

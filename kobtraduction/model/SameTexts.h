@@ -12,17 +12,21 @@
 namespace kob {
 
 /// Entries grouped by their reference texts, case ignored, in time linear in their number and without copying
-/// a text. Entries are numbered from 0 as they are added, the same one anew each time. First all are added,
-/// then they are read, then grouped; reference texts must not change meanwhile. Internal.
+/// a text. Entries are numbered from 0 as they are added, the same one anew each time. First all are added
+/// and read, then grouped; reference texts must not change meanwhile. Internal.
 class SameTexts {
  public:
-  void add(KOBTraductionObj& entry) { entries_.push_back(&entry); }
+  /// A gap is a missing text from language 2 to `last`.
+  explicit SameTexts(std::int32_t last) : last_(last) {}
+
+  /// Adds an entry, and reads one that was added some time before: its reference text, and whether it has
+  /// gaps. An entry without a list fails with ObjectNotSet, one without a reference text with InvalidIndex.
+  void add(KOBTraductionObj& entry);
+  /// Reads the entries that are not read yet; fails in the same way.
+  void readRest();
   std::size_t count() const noexcept { return entries_.size(); }
   KOBTraductionObj& entry(std::size_t number) const noexcept { return *entries_[number]; }
 
-  /// Reads the reference texts, and sees where a text is missing from language 2 to `last`. An entry without
-  /// a list fails with ObjectNotSet, one without a reference text with InvalidIndex.
-  void read(std::int32_t last);
   /// Whether an entry has a gap or not even an item in a language / not even an item.
   bool anyGaps() const noexcept { return anyGaps_; }
   bool anyShort() const noexcept { return anyShort_; }
@@ -48,28 +52,21 @@ class SameTexts {
     }
   }
   /// Makes the groups, and calls complete(group) for each of two entries or more of which one has gaps: its
-  /// entries in order, as a span of pointers. Groups come in any order, their entries fetched from memory
-  /// ahead.
+  /// entries in order, as a span of pointers. Groups come in the order of their first entries, those of one
+  /// hash together, their entries fetched from memory ahead.
   template <class Complete>
   void eachWithGaps(Complete&& complete) {
-    sortByHash();
-    orderEntries();
-    for (std::size_t start = 0, end = 0; start < members_.size(); start = end) {
-      bool hasGaps = false;
-      for (end = start; end < members_.size() && members_[end].hash == members_[start].hash; ++end) {
-        hasGaps = hasGaps || members_[end].hasGaps != 0;
-      }
-      if (!hasGaps || end - start < 2) {
-        continue;
-      }
+    orderRunsWithGaps();
+    std::size_t start = 0;
+    for (const std::size_t end : ends_) {
       fetchBehind(end);
       std::size_t next = endOfSame(start, end);
       if (next < end) {
         sortByText(start, end);
         next = endOfSame(start, end);
       }
-      for (std::size_t from = start; from < end; from = std::exchange(next, endOfSame(next, end))) {
-        complete(std::span<KOBTraductionObj* const>(ordered_).subspan(from, next - from));
+      for (; start < end; start = std::exchange(next, endOfSame(next, end))) {
+        complete(std::span<KOBTraductionObj* const>(ordered_).subspan(start, next - start));
       }
     }
   }
@@ -81,25 +78,30 @@ class SameTexts {
     std::uint32_t hasGaps : 1;
   };
 
+  void readNext();
   TextView reference(std::size_t number) const;
   bool isSame(std::size_t a, std::size_t b) const;
   void sortByHash();
   void splitRun(std::size_t start);
+  /// The entries of each hash that two or more have, of which one has gaps.
+  void orderRunsWithGaps();
   void sortByText(std::size_t start, std::size_t end);
-  void orderEntries();
   /// Where, at `end` at the latest, entries follow whose text is another one than that at `start`.
   std::size_t endOfSame(std::size_t start, std::size_t end) const;
   /// Fetches the entries some places behind `end`, and the texts of those that are not as far behind.
   void fetchBehind(std::size_t end) noexcept;
-  bool isAlone(std::size_t member) const noexcept;
 
+  std::int32_t last_;
   std::vector<KOBTraductionObj*> entries_;
   bool anyGaps_ = false;
   bool anyShort_ = false;
-  /// Once grouped: the members of a group side by side, in the order of their numbers.
+  /// Of the entries that are read; once grouped, the members of a group side by side, in the order of their
+  /// numbers.
   std::vector<Member> members_;
-  /// The entries of the members, and how far these and their texts are fetched.
+  /// The entries that are completed, those of one hash side by side, and where each of these runs ends; how
+  /// far the entries and their texts are fetched.
   std::vector<KOBTraductionObj*> ordered_;
+  std::vector<std::uint32_t> ends_;
   std::size_t fetchedEntries_ = 0;
   std::size_t fetchedTexts_ = 0;
   /// By an entry's number: where its group starts among the members. A group may be several of one hash until

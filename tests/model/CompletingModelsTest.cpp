@@ -3,6 +3,7 @@
 
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace kob::test {
 namespace {
@@ -284,6 +285,49 @@ TEST_F(CompletingModels, ANodeWithoutAListFailsBehindItsOwnEntries) {
 TEST_F(CompletingModels, ADamagedTreeWithoutEntriesFailsToo) {
   model.Racine()->ColCell()->Add(nullptr);
   EXPECT_EQ(complete(), FailureKind::ObjectNotSet);
+}
+
+// Entries are read while the walk is some way ahead of them.
+
+TEST_F(CompletingModels, AnEmptyListFarAheadOfADamagedCellIsTheFailure) {
+  const CellRef first = add({u"a", u"", u""});
+  add({u"a", u"2", u""});
+  add({});
+  for (int i = 0; i < 100; ++i) {
+    add({u"b", u"", u""});
+  }
+  add({u"a", u"", u"3"});
+  model.Racine()->ColCell()->Add(nullptr);
+  EXPECT_EQ(complete(), FailureKind::InvalidIndex);
+  EXPECT_EQ(texts(first), (Texts{u"a", u"2", u""}));
+}
+
+TEST_F(CompletingModels, ADamagedCellAheadOfAnEmptyListIsTheFailure) {
+  for (int i = 0; i < 100; ++i) {
+    add({u"b", u"", u""});
+  }
+  model.Racine()->ColCell()->Add(nullptr);
+  add({});
+  EXPECT_EQ(complete(), FailureKind::ObjectNotSet);
+}
+
+TEST_F(CompletingModels, EntriesThatLieFarApartBelowManyNodesCompleteEachOther) {
+  constexpr int forms = 40;
+  constexpr int controls = 20;
+  std::vector<CellRef> cells;
+  for (int form = 0; form < forms; ++form) {
+    const CellRef node = model.Racine()->AddNoeuds(decimal(form));
+    for (int i = 0; i < controls; ++i) {
+      // Each control has a text in every form, translated in the third and in the last one.
+      const Text translated = form == 2 || form == forms - 1 ? u"in " + decimal(form) : Text();
+      cells.push_back(message(node, u"m", {u"text " + decimal(i), translated, u""}));
+    }
+  }
+  complete();
+  for (std::size_t i = 0; i + controls < cells.size(); ++i) {
+    EXPECT_EQ(texts(cells[i])[1], u"in 2");
+  }
+  EXPECT_EQ(texts(cells.back())[1], u"in 39");
 }
 
 TEST_F(CompletingModels, ManyEntriesOfOneTextAreCompletedInTime) {
