@@ -87,6 +87,28 @@ TEST_F(EditorKnownTexts, ComeWithAnAddedCell) {
   EXPECT_EQ(known.of(u"non")->Item(2), u"No");
 }
 
+TEST_F(EditorKnownTexts, ComeWithOtherTextsInThePlaceOfAListThatAHostKeeps) {
+  const EntryRef entry = form->AddMessage(u"c", u"Un")->Traduction();
+  const std::shared_ptr<TextList> kept = entry->ColTraduction();
+  const std::shared_ptr<TextList> other = textList({u"Non", u"No", u"", u"", u"", u""});
+  KnownTexts known(model);
+  ASSERT_EQ(known.of(u"Non")->Item(2), u"");
+  entry->setColTraduction(other);
+  EXPECT_EQ(known.of(u"Non")->Item(2), u"No");
+}
+
+TEST_F(EditorKnownTexts, ComeWithOtherEntriesInThePlaceOfAListThatAHostKeeps) {
+  std::int32_t error = 0;
+  const CellRef control = form->AddCtrl(u"c", {}, u"Un", 1, 1, error, {}, {});
+  const std::shared_ptr<EntryList> kept = control->ColTraduction();
+  const auto other = std::make_shared<EntryList>();
+  other->Add(caption(u"Non", u"No"));
+  KnownTexts known(model);
+  ASSERT_EQ(known.of(u"Non")->Item(2), u"");
+  control->setColTraduction(other);
+  EXPECT_EQ(known.of(u"Non")->Item(2), u"No");
+}
+
 TEST_F(EditorKnownTexts, ComeWithTheReferenceTextThatARemovedOneUncovers) {
   const CellRef other = message(form, u"c", {u"Un", u"Deux", u"Trois", {}, {}, {}});
   const std::shared_ptr<TextList> texts = other->Traduction()->ColTraduction();
