@@ -25,6 +25,7 @@ void fetchChildren(const KOBCellTraduction* cell, std::int32_t langue) noexcept 
 
 std::optional<KOBCellTraduction*> ControlCells::find(const HostRef& control) {
   if (control == nullptr || !control->tellPlace(place_)) {
+    previous_ = {};
     return std::nullopt;
   }
   const Start& start = startOf(*place_.container, place_.link);

@@ -23,7 +23,8 @@ class ControlCells {
       : model_(model), paths_(paths), langue_(langue) {}
 
   /// Null for no cell. Empty when only the whole path tells; no property of the control was read then. The
-  /// cell is there until the host's code runs or a tree changes. The control must live until the next call.
+  /// cell is there until the host's code runs or a tree changes. The control must live until the end of the
+  /// next call.
   std::optional<KOBCellTraduction*> find(const HostRef& control);
 
  private:

@@ -93,6 +93,21 @@ TEST_F(ApplyForm, OnlyVisibleSkipsHiddenControlsAndKeepsTheirTags) {
       << "a control's own flag counts, not its container's";
 }
 
+// A control's cell is remembered for what follows it: not longer than the control itself.
+TEST_F(ApplyForm, WhatStandsInATaggedFrameBehindATabStripIsTranslated) {
+  auto* const strip = new QTabBar(&form);
+  strip->setObjectName(QStringLiteral("tabSuite"));
+  QGroupBox* const frame = addFrame(form, "cadre2", "Livraison");
+  frame->setProperty("tag", QStringLiteral("[T]"));
+  auto* const label = new QLabel(QStringLiteral("Ville"), frame);
+  label->setObjectName(QStringLiteral("lblVille"));
+  model.UpdateWithForm(hostForm(&form));
+  setCaption(model, u"FrmClients\\cadre2\\lblVille", 2, u"City");
+  model.TraduitDialog(hostForm(&form), 2);
+  EXPECT_EQ(label->text(), QStringLiteral("City"));
+  EXPECT_THAT(boxes.notices, IsEmpty());
+}
+
 TEST_F(ApplyForm, OnlyContainerTakesWhatItsPathBeginsAndNeverTheForm) {
   QGroupBox* const similar = addFrame(form, "cadre2", "Livraison");
   model.UpdateWithForm(hostForm(&form));
