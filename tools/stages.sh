@@ -21,10 +21,12 @@ stage_skip() {
 
 # run_ctest PRESET: the suite of a build folder, its cases counted one by one.
 run_ctest() {
-  local preset=$1 cases="$root/build/$1/results" junit="$root/build/$1/ctest.xml" log="$results/ctest-$1.log"
+  local preset=$1 cases="$root/build/$1/results" junit="$root/build/$1/ctest.xml" log="$results/ctest-$1.log" seconds=600
+  # The longer properties take their time under the sanitizers.
+  [ "$whole" = no ] || seconds=3600
   rm -rf "$cases" "$junit"
   mkdir -p "$cases"
-  on_virtual_screen ctest --test-dir "build/$preset" --output-on-failure -j "$(nproc)" --timeout 600 \
+  on_virtual_screen ctest --test-dir "build/$preset" --output-on-failure -j "$(nproc)" --timeout "$seconds" \
     --no-tests=error --output-junit "$junit" >"$log" 2>&1 ||
     grep -vE '^ *[0-9]+/[0-9]+ .* Passed |^ +Start +[0-9]+:|^\[ RUN  |^\[       OK |^\[-----' "$log" || true
   # shellcheck disable=SC2046
