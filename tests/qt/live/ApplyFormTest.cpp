@@ -4,6 +4,8 @@
 
 #include <kobtraductionqt/KOBTraductionQt.h>
 
+#include <QTabBar>
+
 #include <gmock/gmock.h>
 
 namespace kob::qt::live {
