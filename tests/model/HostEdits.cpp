@@ -55,11 +55,13 @@ Text HostEdits::name(int number) {
 }
 
 HostEdits::Found HostEdits::walk(const Plain& plain, const Text& name) {
+  const Text wanted = upper(name);
   for (KOBCellTraduction* const one : plain) {
     if (one == nullptr) {
       return {nullptr, true};
     }
-    if (upper(one->nom()) == upper(name)) {
+    // Upper-casing keeps the number of units, so a name of another length need not be tried.
+    if (one->nom().size() == wanted.size() && upper(one->nom()) == wanted) {
       return {one, false};
     }
   }
@@ -67,11 +69,12 @@ HostEdits::Found HostEdits::walk(const Plain& plain, const Text& name) {
 }
 
 std::optional<std::size_t> HostEdits::place(const Plain& plain, const Text& name) {
+  const Text wanted = upper(name);
   for (std::size_t i = 0; i < plain.size(); ++i) {
     if (plain[i] == nullptr) {
       return std::nullopt;
     }
-    if (upper(plain[i]->nom()) > upper(name)) {
+    if (upper(plain[i]->nom()) > wanted) {
       return i;
     }
   }
