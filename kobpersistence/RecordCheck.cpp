@@ -9,6 +9,13 @@
 
 namespace kob::persistence {
 
+namespace {
+
+/// Texts up to this length have one byte for it.
+constexpr std::size_t longestShort = 0x7F;
+
+}  // namespace
+
 bool takeLongVarint(const Byte*& from, const Byte* end, std::uint32_t& number) noexcept {
   number = 0;
   for (unsigned shift = 0; shift < 7 * longestVarint; shift += 7) {
@@ -36,10 +43,16 @@ void RecordCheck::wrong(const Byte* at, TextView what) const {
 
 void RecordCheck::check(std::uint32_t record, const Byte* from, const Byte* end) {
   record_ = record;
-  lastText_ = {};
+  lastUnits_ = 0;
   heights_[record] = 1;
   while (from != end) {
-    from = checkValue(from, end);
+    from = takeShortTexts(from, end);
+    while (end - from >= 2 && static_cast<Tag>(from[0]) == Tag::Long && from[1] < 0x80) {
+      from += 2;
+    }
+    if (from != end) {
+      from = checkValue(from, end);
+    }
   }
   if (heights_[record] > deepestNesting) {
     throw tooDeep();
@@ -56,7 +69,28 @@ void RecordCheck::finish() const {
   }
 }
 
-const Byte* RecordCheck::checkValue(const Byte* from, const Byte* end) {
+inline const Byte* RecordCheck::takeShortTexts(const Byte* from, const Byte* end) noexcept {
+  // Most bytes of a file are texts whose tag, length and units are a byte each.
+  constexpr std::ptrdiff_t head = 2;
+  char16_t* to = to_;
+  std::size_t units = lastUnits_;
+  while (end - from > head && static_cast<Tag>(from[0]) == Tag::NarrowText) {
+    const std::size_t size = from[1];
+    if (size - 1 >= longestShort || size > static_cast<std::size_t>(end - from - head) ||
+        size > static_cast<std::size_t>(blockEnd_ - to)) {
+      break;
+    }
+    widen(to, from + head, size);
+    to += size;
+    from += head + size;
+    units = size;
+  }
+  to_ = to;
+  lastUnits_ = units;
+  return from;
+}
+
+inline const Byte* RecordCheck::checkValue(const Byte* from, const Byte* end) {
   const Byte* const tag = from++;
   std::uint32_t number = 0;
   switch (static_cast<Tag>(*tag)) {
@@ -68,7 +102,7 @@ const Byte* RecordCheck::checkValue(const Byte* from, const Byte* end) {
       repeatText(tag);
       return from;
     case Tag::EmptyText:
-      lastText_ = {};
+      lastUnits_ = 0;
       return from;
     case Tag::Ones:
       if (from == end || *from == 0 || *from > mostOnes) {
@@ -124,18 +158,18 @@ const Byte* RecordCheck::takeText(const Byte* from, const Byte* end, std::uint32
   } else {
     loadUnits(to_, from, units);
   }
-  lastText_ = {to_, units};
   to_ += units;
+  lastUnits_ = units;
   return from + bytes;
 }
 
 void RecordCheck::repeatText(const Byte* at) {
-  if (lastText_.empty()) {
+  if (lastUnits_ == 0) {
     wrong(at, u"a text is to be repeated where there is none");
   }
-  checkRoom(lastText_.size(), at);
-  to_ = std::copy(lastText_.begin(), lastText_.end(), to_);
-  lastText_ = {};
+  checkRoom(lastUnits_, at);
+  to_ = std::copy(to_ - lastUnits_, to_, to_);
+  lastUnits_ = 0;
 }
 
 void RecordCheck::takeNextObject(const Byte* at) {

@@ -37,6 +37,8 @@ class RecordCheck {
 
  private:
   [[noreturn]] void wrong(const Byte* at, TextView what) const;
+  /// Behind the short texts at the front that are right, perhaps none.
+  const Byte* takeShortTexts(const Byte* from, const Byte* end) noexcept;
   const Byte* checkValue(const Byte* from, const Byte* end);
   /// Behind a text of so many units, each in so many bytes.
   const Byte* takeText(const Byte* from, const Byte* end, std::uint32_t bytesPerUnit);
@@ -49,8 +51,8 @@ class RecordCheck {
   char16_t* to_;
   const char16_t* blockEnd_;
   std::uint32_t record_ = 0;
-  /// The last text of the record, when it may be repeated.
-  TextView lastText_;
+  /// The units of the record's last text, when it may be repeated; it lies where the texts have come to.
+  std::size_t lastUnits_ = 0;
   /// For each record, how many levels it has with those below it.
   std::vector<std::uint16_t> heights_;
   /// The records whose objects wait for the record that names them.

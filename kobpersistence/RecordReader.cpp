@@ -69,10 +69,49 @@ inline bool RecordReader::readText(TextView& text) noexcept {
   }
 }
 
+std::size_t RecordReader::readNarrow(std::span<TextView> to) noexcept {
+  // Kept apart from the reader's own, which a text that is written might be for all that the compiler knows.
+  const Byte* from = from_;
+  const char16_t* texts = texts_;
+  std::size_t units = lastUnits_;
+  std::size_t read = 0;
+  for (; read < to.size() && from != end_; ++read) {
+    const auto tag = static_cast<Tag>(*from);
+    if (tag == Tag::NarrowText) {
+      ++from;
+      units = loadVarint(from);
+      from += units;
+    } else if (tag == Tag::EmptyText || tag == Tag::SameText) {
+      ++from;
+    } else {
+      break;
+    }
+    to[read] = TextView(texts, tag == Tag::EmptyText ? 0 : units);
+    texts += to[read].size();
+  }
+  from_ = from;
+  texts_ = texts;
+  lastUnits_ = units;
+  return read;
+}
+
 std::int32_t RecordReader::ReadStrings(std::span<TextView> to) {
   std::size_t read = 0;
-  while (read < to.size() && ones_ == 0 && from_ != end_ && readText(to[read])) {
+  while (ones_ == 0) {
+    read += readNarrow(to.subspan(read));
+    if (read == to.size() || from_ == end_ || !readText(to[read])) {
+      break;
+    }
     ++read;
+  }
+  return static_cast<std::int32_t>(read);
+}
+
+std::int32_t RecordReader::ReadLongs(std::span<std::int32_t> to) {
+  std::size_t read = 0;
+  while (read < to.size() && ones_ == 0 && from_ != end_ && static_cast<Tag>(*from_) == Tag::Long) {
+    ++from_;
+    to[read++] = unzigzag(loadVarint(from_));
   }
   return static_cast<std::int32_t>(read);
 }
@@ -129,19 +168,19 @@ const PersistValue& RecordReader::ReadValue() {
       from_ += sizeof(double);
       break;
     case Tag::NextObject:
-      value_ = PersistValue::object(objects_.next());
+      value_.becomeObject(objects_.next());
       break;
     case Tag::NumberedObject:
-      value_ = PersistValue::object(objects_.numbered(loadVarint(from_)));
+      value_.becomeObject(objects_.numbered(loadVarint(from_)));
       break;
     case Tag::Nothing:
-      value_ = PersistValue::object(nullptr);
+      value_.becomeObject(nullptr);
       break;
     case Tag::False:
-      value_ = PersistValue::ofBoolean(false);
+      value_.becomeBoolean(false);
       break;
     case Tag::True:
-      value_ = PersistValue::ofBoolean(true);
+      value_.becomeBoolean(true);
       break;
   }
   return value_;

@@ -34,11 +34,14 @@ class RecordReader final : public PersistStream {
   void WriteValue(const PersistValue& value) override;
   const PersistValue& ReadValue() override;
   std::int32_t ReadStrings(std::span<TextView> to) override;
+  std::int32_t ReadLongs(std::span<std::int32_t> to) override;
   std::int32_t PassOnes(std::int32_t most) override;
   ImageRef image() const override { return image_; }
 
  private:
   TextView takeText(std::size_t units) noexcept;
+  /// Reads values as long as they are texts of units below 256 or "", as many as there is room for.
+  std::size_t readNarrow(std::span<TextView> to) noexcept;
   /// Reads the next value if it is a text; whether it is one. There is a next value.
   bool readText(TextView& text) noexcept;
 

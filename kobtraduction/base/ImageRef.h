@@ -34,6 +34,8 @@ class KOB_EXPORT ImageRef {
     }
   }
 
+  void swap(ImageRef& other) noexcept { std::swap(image_, other.image_); }
+
   explicit operator bool() const noexcept { return image_ != nullptr; }
 
  private:

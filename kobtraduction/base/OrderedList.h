@@ -71,6 +71,15 @@ class OrderedList {
     items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index(position)));
   }
 
+  void Clear() {
+    Watch::changed();
+    if (items_.size() != 0) {
+      // Out of the list first: releasing an item may run a host's code.
+      Items gone;
+      items_.swap(gone);
+    }
+  }
+
   const_iterator begin() const noexcept { return items_.begin(); }
   const_iterator end() const noexcept { return items_.end(); }
 

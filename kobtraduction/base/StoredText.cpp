@@ -45,18 +45,4 @@ StoredText::StoredText(StoredText&& other) noexcept
       length_(std::exchange(other.length_, 0)),
       isOwned_(std::exchange(other.isOwned_, false)) {}
 
-StoredText& StoredText::operator=(StoredText&& other) noexcept {
-  std::swap(data_, other.data_);
-  std::swap(image_, other.image_);
-  std::swap(length_, other.length_);
-  std::swap(isOwned_, other.isOwned_);
-  return *this;
-}
-
-StoredText::~StoredText() {
-  if (isOwned_) {
-    delete[] data_;
-  }
-}
-
 }  // namespace kob

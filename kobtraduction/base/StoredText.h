@@ -6,6 +6,7 @@
 #include <kobtraduction/base/Text.h>
 
 #include <cstdint>
+#include <utility>
 
 namespace kob {
 
@@ -19,8 +20,22 @@ class KOB_EXPORT StoredText {
   /// A text that stays where it is: in an image that is kept alive, or, without one, in static storage.
   static StoredText view(TextView text, ImageRef image = {});
   StoredText(StoredText&& other) noexcept;
-  StoredText& operator=(StoredText&& other) noexcept;
-  ~StoredText();
+  StoredText& operator=(StoredText&& other) noexcept {
+    swap(other);
+    return *this;
+  }
+  ~StoredText() {
+    if (isOwned_) {
+      delete[] data_;
+    }
+  }
+
+  void swap(StoredText& other) noexcept {
+    std::swap(data_, other.data_);
+    image_.swap(other.image_);
+    std::swap(length_, other.length_);
+    std::swap(isOwned_, other.isOwned_);
+  }
 
   TextView text() const noexcept { return {data_, length_}; }
 

@@ -118,12 +118,17 @@ bool equalToUpper(TextView text, TextView uppered) noexcept {
 
 bool lessUpper(TextView a, TextView b) noexcept {
   // Siblings often begin alike.
-  while (a.size() >= unitsPerWord && b.size() >= unitsPerWord && upperWord(a.data()) == upperWord(b.data())) {
-    a.remove_prefix(unitsPerWord);
-    b.remove_prefix(unitsPerWord);
+  const std::size_t common = std::min(a.size(), b.size());
+  std::size_t i = 0;
+  while (i + unitsPerWord <= common && equalWord(a.data() + i, b.data() + i)) {
+    i += unitsPerWord;
   }
-  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                      [](char16_t x, char16_t y) { return upperUnit(x) < upperUnit(y); });
+  for (; i < common; ++i) {
+    if (a[i] != b[i] && upperUnit(a[i]) != upperUnit(b[i])) {
+      return upperUnit(a[i]) < upperUnit(b[i]);
+    }
+  }
+  return a.size() < b.size();
 }
 
 std::uint32_t hashUpper(TextView text) noexcept {

@@ -53,7 +53,7 @@ void KOBCellTraduction::setTypeFeuille(std::int32_t kind) {
     untouched_ = std::max(Global_Util::NbLangues(), 0);
   }
   if (kind == 2) {
-    colTraduction_.renew(EntryList());
+    colTraduction_.renew();
   }
 }
 

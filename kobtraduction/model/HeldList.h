@@ -59,14 +59,14 @@ class HeldList {
     clear();
   }
 
-  /// The list becomes a new one.
-  List& renew(List list) {
+  /// The list becomes a new one, without items.
+  List& renew() {
     if (is(isShared)) {
-      assign(std::make_shared<List>(std::move(list)));
+      assign(std::make_shared<List>());
       return **apart();
     }
     setApart(nullptr);
-    inside_ = std::move(list);
+    inside_.Clear();
     state_ |= isInside;
     return inside_;
   }
@@ -89,7 +89,7 @@ class HeldList {
   void clear() noexcept {
     state_ &= ~isInside;
     if (!is(isShared)) {
-      inside_ = List();
+      inside_.Clear();
     }
   }
 

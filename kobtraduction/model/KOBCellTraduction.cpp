@@ -105,7 +105,7 @@ void KOBCellTraduction::rename(StoredText newName) {
     }
   };
   eachHolder([this](CellList& list) { list.beforeRename(*this); });
-  std::swap(nom_, newName);
+  nom_.swap(newName);
   if (isAliasNom_ && newName.text() != nom()) {
     rare_->alias = std::move(newName);
     isAliasNom_ = false;
@@ -134,7 +134,7 @@ TextView KOBCellTraduction::Alias() const noexcept {
 }
 
 void KOBCellTraduction::setAlias(TextView alias) {
-  const bool isNom = alias == nom();
+  const bool isNom = sameUnits(alias, nom());
   if (!isNom && (rare_ != nullptr || !alias.empty())) {
     rare().alias = StoredText(alias);
   }

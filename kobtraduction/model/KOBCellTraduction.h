@@ -195,7 +195,7 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
   /// What a record holds of a node, and of a control cell.
   void writeChildren(PersistStream& stream) const;
   void writeControl(PersistStream& stream) const;
-  void readName(PersistStream& stream);
+  void readNames(PersistStream& stream);
   void readControl(PersistStream& stream);
   void readFactors(PersistStream& stream);
   /// The children, or ObjectNotSet.

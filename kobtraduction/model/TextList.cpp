@@ -46,7 +46,7 @@ void TextList::swap(TextList& other) noexcept {
   hasMoreEnds_ = other.hasMoreEnds_;
   other.hasMoreEnds_ = hasMoreEnds;
   std::swap(ends_, other.ends_);
-  std::swap(image_, other.image_);
+  image_.swap(other.image_);
 }
 
 TextList::~TextList() {
@@ -211,14 +211,18 @@ void TextList::AddEmpty(std::int32_t count) {
   count_ += static_cast<std::uint32_t>(std::max(count, 0));
 }
 
+void TextList::Clear() noexcept {
+  if (units_ != nullptr || hasMoreEnds_ || image_) {
+    *this = TextList();
+    return;
+  }
+  entriesChanged();
+  count_ = 0;
+}
+
 void TextList::AddView(TextView text) {
   const std::uint32_t end = length();
   const bool isFirst = units_ == nullptr;
-  if (!isFirst && capacity_ == 0 && count_ < fewTexts && !hasMoreEnds_ && units_ + end == text.data()) {
-    // What nearly all texts of a file are.
-    ends_.few[count_++] = end + static_cast<std::uint32_t>(text.size());
-    return;
-  }
   if (text.empty() || capacity_ > 0 || (!isFirst && units_ + end != text.data())) {
     Add(text);
     return;
@@ -228,6 +232,24 @@ void TextList::AddView(TextView text) {
     units_ = text.data();
   }
   insertEnd(count_, end + static_cast<std::uint32_t>(text.size()));
+}
+
+void TextList::AddViews(std::span<const TextView> texts) {
+  std::size_t added = 0;
+  if (count_ == 0 && capacity_ == 0 && !hasMoreEnds_ && !texts.empty() && !texts.front().empty()) {
+    // What nearly all texts of a file are: few, and one behind the other.
+    units_ = texts.front().data();
+    std::uint32_t end = 0;
+    for (; added < std::min<std::size_t>(texts.size(), fewTexts) && texts[added].data() == units_ + end;
+         ++added) {
+      end += static_cast<std::uint32_t>(texts[added].size());
+      ends_.few[added] = end;
+    }
+    count_ = static_cast<std::uint32_t>(added);
+  }
+  for (const TextView text : texts.subspan(added)) {
+    AddView(text);
+  }
 }
 
 }  // namespace kob

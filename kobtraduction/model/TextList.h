@@ -60,6 +60,7 @@ class KOB_EXPORT TextList {
   std::size_t OfferTexts(std::span<TextView> texts) const noexcept;
   /// Appends so many "".
   void AddEmpty(std::int32_t count);
+  void Clear() noexcept;
 
   /// Keeps `image` alive as long as texts of the list lie in it; views into it may then be added. One image
   /// per list.
@@ -67,6 +68,8 @@ class KOB_EXPORT TextList {
   /// Appends a text that lies in the list's image or is static. It stays where it is when it begins where the
   /// texts before it end; one that lies elsewhere turns the list's texts into its own.
   void AddView(TextView text);
+  /// The same for each of several texts in turn.
+  void AddViews(std::span<const TextView> texts);
 
   // Internal: for the entry.
 

@@ -32,6 +32,10 @@ std::int32_t PersistStream::ReadStrings(std::span<TextView> /*to*/) {
   return 0;
 }
 
+std::int32_t PersistStream::ReadLongs(std::span<std::int32_t> /*to*/) {
+  return 0;
+}
+
 std::int32_t PersistStream::PassOnes(std::int32_t /*most*/) {
   return 0;
 }

@@ -68,6 +68,8 @@ class KOB_EXPORT PersistStream {
   /// Reads values as long as they are texts, as many as there is room for; how many it were. The texts live
   /// as those of ReadValue(), but up to the next call of any reading operation.
   virtual std::int32_t ReadStrings(std::span<TextView> to);
+  /// Reads values as long as they are longs, as many as there is room for; how many it were.
+  virtual std::int32_t ReadLongs(std::span<std::int32_t> to);
   /// Passes over values as long as they are the small integer 1, at most so many; how many it were.
   virtual std::int32_t PassOnes(std::int32_t most);
 

@@ -58,6 +58,15 @@ class KOB_EXPORT PersistValue {
     integer_ = value;
     dropObject();
   }
+  void becomeBoolean(bool value) noexcept {
+    type_ = PersistType::Boolean;
+    integer_ = value ? -1 : 0;
+    dropObject();
+  }
+  void becomeObject(PersistRef object) noexcept {
+    type_ = PersistType::Object;
+    object_ = std::move(object);
+  }
 
   // Conversions by the rules of automation hosts (see Value); what does not convert is TypeMismatch.
 

@@ -98,9 +98,25 @@ Factor readFactor(PersistStream& stream) {
 
 /// Only the sign is a choice of the user's: everything but -1 reads back as 1, which is what older files
 /// mean.
-std::int32_t readIndicator(PersistStream& stream) {
-  return stream.ReadValue().toLong() == -1 ? -1 : 1;
+std::int32_t indicator(std::int32_t number) {
+  return number == -1 ? -1 : 1;
 }
+
+/// The next numbers of a record, in one go where the stream has longs: no more of them than follow one
+/// another in any record.
+template <std::size_t most>
+class Numbers {
+ public:
+  explicit Numbers(PersistStream& stream) : stream_(stream), read_(stream.ReadLongs(numbers_)) {}
+
+  std::int32_t next() { return taken_ < read_ ? numbers_[taken_++] : stream_.ReadValue().toLong(); }
+
+ private:
+  PersistStream& stream_;
+  std::int32_t numbers_[most];
+  std::int32_t read_;
+  std::int32_t taken_ = 0;
+};
 
 }  // namespace
 
@@ -205,12 +221,14 @@ void KOBCellTraduction::writeControl(PersistStream& stream) const {
 void KOBCellTraduction::read(PersistStream& stream) {
   guarded([&] {
     const std::int32_t version = stream.Version();
-    readName(stream);
-    readText(stream, [this](TextView text) { setAlias(text); });
-    setTypeCell(stream.ReadValue().toLong());
-    if (TypeCell() == 1) {
+    readNames(stream);
+    // The kind, and either the number of children or the kind of translations.
+    Numbers<2> numbers(stream);
+    setTypeCell(numbers.next());
+    const bool isNode = TypeCell() == 1;
+    if (isNode) {
       setColCell(std::make_shared<CellList>());
-      const std::int32_t count = stream.ReadValue().toLong();
+      const std::int32_t count = numbers.next();
       ColCell()->Reserve(count);
       const std::shared_ptr<KOBCellTraduction> self = shared_from_this();
       for (std::int32_t left = count; left > 0; --left) {
@@ -219,7 +237,7 @@ void KOBCellTraduction::read(PersistStream& stream) {
         ColCell()->Add(std::move(cell));
       }
     }
-    setTypeFeuille(stream.ReadValue().toLong());
+    setTypeFeuille(isNode ? stream.ReadValue().toLong() : numbers.next());
     if (TypeFeuille() == 1) {
       setTraduction(readObject<KOBTraductionObj>(stream));
     } else if (TypeFeuille() == 2) {
@@ -231,21 +249,30 @@ void KOBCellTraduction::read(PersistStream& stream) {
   });
 }
 
-void KOBCellTraduction::readName(PersistStream& stream) {
+void KOBCellTraduction::readNames(PersistStream& stream) {
   ImageRef image = stream.image();
-  const PersistValue& value = stream.ReadValue();
-  if (value.type() == PersistType::String && image) {
+  TextView names[2];
+  const std::int32_t read = image ? stream.ReadStrings(names) : 0;
+  if (read > 0) {
+    rename(StoredText::view(names[0], std::move(image)));
+  } else if (const PersistValue& value = stream.ReadValue(); value.type() == PersistType::String && image) {
     rename(StoredText::view(value.text(), std::move(image)));
   } else {
     setnom(value.toText());
   }
+  if (read > 1) {
+    setAlias(names[1]);
+  } else {
+    readText(stream, [this](TextView text) { setAlias(text); });
+  }
 }
 
 void KOBCellTraduction::readControl(PersistStream& stream) {
-  setm_left(readIndicator(stream));
-  setm_width(readIndicator(stream));
-  const std::int32_t count = stream.ReadValue().toLong();
-  EntryList& list = colTraduction_.renew(EntryList());
+  Numbers<3> numbers(stream);
+  setm_left(indicator(numbers.next()));
+  setm_width(indicator(numbers.next()));
+  const std::int32_t count = numbers.next();
+  EntryList& list = colTraduction_.renew();
   list.Reserve(std::clamp(count, 0, usualEntries));
   for (std::int32_t i = 0; i < count; ++i) {
     list.Add(readObject<KOBTraductionObj>(stream));
@@ -311,24 +338,44 @@ void KOBTraductionObj::write(PersistStream& stream) {
 void KOBTraductionObj::read(PersistStream& stream) {
   guarded([&] {
     stream.Version();
-    readText(stream, [this](TextView text) { setnom(text); });
-    TextList& list = colTraduction_.renew(TextList());
+    const std::int32_t languages = std::max(Global_Util::NbLangues(), 0);
+    // The name, and with it the texts when they are as few as usual.
+    TextView texts[1 + usualLanguages];
+    const auto readTexts = [&stream, &texts](std::int32_t most) {
+      return std::span<const TextView>(
+          texts,
+          static_cast<std::size_t>(stream.ReadStrings(std::span(texts, static_cast<std::size_t>(most)))));
+    };
+    std::span<const TextView> read = readTexts(1 + std::min(languages, usualLanguages));
+    if (read.empty()) {
+      readText(stream, [this](TextView text) { setnom(text); });
+    } else {
+      setnom(read.front());
+      read = read.subspan(1);
+    }
+    TextList& list = colTraduction_.renew();
     ImageRef image = stream.image();
     const bool hasImage = static_cast<bool>(image);
     list.setImage(std::move(image));
-    const auto add = [&list, hasImage](TextView text) { hasImage ? list.AddView(text) : list.Add(text); };
-    for (std::int32_t left = Global_Util::NbLangues(); left > 0;) {
-      TextView texts[usualLanguages];
-      const std::int32_t read =
-          stream.ReadStrings(std::span(texts, static_cast<std::size_t>(std::min(left, usualLanguages))));
-      std::for_each(texts, texts + read, add);
-      left -= read;
-      if (read > 0) {
+    const auto add = [&list, hasImage](std::span<const TextView> added) {
+      if (hasImage) {
+        list.AddViews(added);
+      } else {
+        std::for_each(added.begin(), added.end(), [&list](TextView text) { list.Add(text); });
+      }
+    };
+    add(read);
+    for (std::int32_t left = languages - static_cast<std::int32_t>(read.size()); left > 0;) {
+      read = readTexts(std::min(left, usualLanguages));
+      add(read);
+      left -= static_cast<std::int32_t>(read.size());
+      if (!read.empty()) {
         continue;
       }
       const PersistValue& value = stream.ReadValue();
       if (value.type() == PersistType::String) {
-        add(value.text());
+        const TextView text = value.text();
+        add({&text, 1});
       } else {
         list.Add(value.toText());
       }

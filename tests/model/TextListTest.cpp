@@ -55,6 +55,45 @@ TEST(TextListOf, AViewStaysWhereItIs) {
   EXPECT_EQ(list.Item(2).data(), image->data() + 7);
 }
 
+TEST(TextListOf, ViewsAddedTogetherAreThoseAddedOneByOne) {
+  const auto image = std::make_shared<const Text>(u"onetwothreefourfivesixseveneight");
+  const TextView one = TextView(*image).substr(0, 3);
+  const TextView two = TextView(*image).substr(3, 3);
+  const TextView three = TextView(*image).substr(6, 5);
+  const TextView gap = three.substr(0, 0);
+  const TextView five = TextView(*image).substr(15, 4);
+  const std::vector<TextView> runs[] = {{},
+                                        {one},
+                                        {one, two, gap, three},
+                                        {gap, gap, three},
+                                        {u"", one, two},
+                                        {one, three, two},
+                                        {one, two, u"", five},
+                                        {one, two, gap, gap, gap, gap, three},
+                                        {one, two, u"static"},
+                                        {two, gap, gap, gap, gap, gap, gap, gap, three, one}};
+  for (const auto& run : runs) {
+    for (const std::vector<Text>& before : {std::vector<Text>(), {Text()}, {Text(u"own")}}) {
+      TextList together;
+      TextList inTurn;
+      for (TextList* const list : {&together, &inTurn}) {
+        list->setImage(image);
+        for (const Text& text : before) {
+          list->Add(text);
+        }
+      }
+      together.AddViews(run);
+      for (const TextView view : run) {
+        inTurn.AddView(view);
+      }
+      EXPECT_EQ(texts(together), texts(inTurn));
+      EXPECT_EQ(together.Count(), static_cast<std::int32_t>(before.size() + run.size()));
+      together.Add(u"more");
+      EXPECT_EQ(together.Item(together.Count()), u"more");
+    }
+  }
+}
+
 TEST(TextListOf, KeepsTheImageAliveAsLongAsItLives) {
   auto image = std::make_shared<const Text>(u"a text that is long enough to be stored apart");
   const std::weak_ptr<const Text> alive = image;
