@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <memory>
 
 /// Numbers as bytes: little-endian, and of variable length.
 namespace kob::persistence {
@@ -14,12 +13,6 @@ using Byte = std::uint8_t;
 
 /// Bytes beyond a buffer's content that may be read or written, so that texts are moved in whole blocks.
 inline constexpr std::size_t slack = 32;
-
-/// A file's content, followed by `slack` bytes that count for nothing.
-struct Content {
-  std::unique_ptr<Byte[]> bytes;
-  std::size_t size = 0;
-};
 
 template <class T>
 T turned(T number) noexcept {

@@ -95,7 +95,7 @@ void Container::findRecords(const Byte* from, TextView firstClass) {
   if (count == 0 || count > static_cast<std::size_t>(end() - from) / shortestRecord) {
     throw badFile(at::records, u"there are fewer records than the header says");
   }
-  offsets_.reserve(count);
+  offsets_.reserve(std::size_t{count} + 1);
   MakeObject firstMake = nullptr;
   for (std::uint32_t i = 0; i < count; ++i) {
     const Byte* const start = from;
@@ -126,18 +126,10 @@ void Container::findRecords(const Byte* from, TextView firstClass) {
     offsets_.push_back(static_cast<std::uint32_t>(offsetOf(start)));
     from = recordEnd;
   }
+  offsets_.push_back(static_cast<std::uint32_t>(offsetOf(from)));
   if (from != end()) {
     throw badFile(offsetOf(from), u"there are more records than the header says");
   }
-}
-
-Record Container::record(std::uint32_t number) const noexcept {
-  const Byte* from = content_.bytes.get() + offsets_[number];
-  const std::uint32_t length = loadVarint(from);
-  const Byte* const recordEnd = from + length;
-  const MakeObject make = classes_[*from++].make;
-  const std::int32_t version = unzigzag(loadVarint(from));
-  return {make, version, from, recordEnd};
 }
 
 void Container::checkRecords() {
@@ -145,8 +137,7 @@ void Container::checkRecords() {
   if (units > mostUnitsPerByte * content_.size) {
     throw badFile(at::units, u"the texts are longer than the file");
   }
-  texts_ = std::make_shared_for_overwrite<char16_t[]>(units + slack / sizeof(char16_t));
-  expectUseOf(texts_.get(), units * sizeof(char16_t));
+  texts_ = makeLarge<char16_t>(units + slack / sizeof(char16_t));
   RecordCheck check(content_.bytes.get(), records(), texts_.get(), units);
   for (std::uint32_t i = records(); i-- > 0;) {
     const Record found = record(i);

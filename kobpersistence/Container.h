@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #pragma once
 
-#include <kobpersistence/Bytes.h>
+#include <kobpersistence/Content.h>
 #include <kobtraduction/base/Text.h>
 #include <kobtraduction/component/ClassRegistry.h>
 
@@ -31,8 +31,16 @@ class Container {
 
   std::size_t size() const noexcept { return content_.size; }
   /// Records are numbered from 0; there is at least one.
-  std::uint32_t records() const noexcept { return static_cast<std::uint32_t>(offsets_.size()); }
-  Record record(std::uint32_t number) const noexcept;
+  std::uint32_t records() const noexcept { return static_cast<std::uint32_t>(offsets_.size()) - 1; }
+  Record record(std::uint32_t number) const noexcept {
+    const Byte* from = content_.bytes.get() + offsets_[number];
+    // Its length is known, too, from where the next one begins.
+    while (*from++ >= 0x80) {
+    }
+    const MakeObject make = classes_[*from++].make;
+    const std::int32_t version = unzigzag(loadVarint(from));
+    return {make, version, from, content_.bytes.get() + offsets_[number + 1]};
+  }
   /// Has the records before that one on their way from memory.
   void fetchBefore(std::uint32_t number) const noexcept {
     constexpr std::uint32_t ahead = 4;
@@ -76,6 +84,7 @@ class Container {
 
   Content content_;
   std::vector<KnownClass> classes_;
+  /// Where each record begins, and where the last one ends.
   std::vector<std::uint32_t> offsets_;
   std::vector<std::uint32_t> shared_;
   std::shared_ptr<char16_t[]> texts_;

@@ -33,8 +33,7 @@ Content contentOf(ReadableFile& file) {
   if (size > largestFile) {
     throw failure({u"The file is larger than 4 GB, which is the most that can be loaded."});
   }
-  Content content{std::make_unique_for_overwrite<Byte[]>(size + slack), 0};
-  expectUseOf(content.bytes.get(), size);
+  Content content{makeLarge<Byte>(inWholePages(size + slack)), 0};
   while (content.size < size) {
     const std::size_t now = file.read(content.bytes.get() + content.size, size - content.size);
     if (now == 0) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include <kobpersistence/Container.h>
 #include <kobpersistence/Describing.h>
+#include <kobpersistence/LargePages.h>
 #include <kobpersistence/Loading.h>
 #include <kobpersistence/RecordReader.h>
 #include <kobtraduction/component/Global_Util.h>
@@ -25,7 +26,8 @@ std::uint64_t mostItems(std::size_t fileSize) {
 /// filled and nothing ever waits on the stack for what lies deeper.
 class Loading final : private FilledObjects {
  public:
-  explicit Loading(const Container& container) : container_(container), first_(*this, container) {}
+  explicit Loading(const Container& container)
+      : container_(container), first_(*this, container), pool_(container.records(), largePages()) {}
 
   void into(IKOBVBPersistStream& object) {
     const std::int32_t languagesBefore = Global_Util::NbLangues();
@@ -90,14 +92,24 @@ class Loading final : private FilledObjects {
     for (std::uint32_t i = container_.records(); i-- > 1;) {
       const Record record = container_.record(i);
       container_.fetchBefore(i);
-      PersistRef object = record.make();
+      PersistRef object = record.make(pool_);
       reader.open(i, record, texts);
       object->read(reader);
       texts = reader.close();
+      // Names are looked at on the way, and lie too far from one another to be fetched in time by themselves.
+      fetchTexts(texts);
       if (sharedLeft > 0 && shared[sharedLeft - 1] == i) {
         shared_[--sharedLeft] = object;
       }
       waiting_.push_back(std::move(object));
+    }
+  }
+
+  [[maybe_unused]] static void fetchTexts(const char16_t* texts) noexcept {
+    constexpr std::size_t ahead = 512;
+    constexpr std::size_t line = 32;
+    for (std::size_t i = 0; i < 3 * line; i += line) {
+      __builtin_prefetch(texts + ahead + i);
     }
   }
 
@@ -111,6 +123,7 @@ class Loading final : private FilledObjects {
 
   const Container& container_;
   RecordReader first_;
+  ObjectPool pool_;
   /// Filled objects whose namer's turn is still to come, the one that is named next on top.
   std::vector<PersistRef> waiting_;
   /// Those named more than once, in the order of container_.shared().

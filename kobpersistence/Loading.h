@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #pragma once
 
-#include <kobpersistence/Bytes.h>
+#include <kobpersistence/Content.h>
 #include <kobtraduction/persistence/PersistStream.h>
 
 namespace kob::persistence {

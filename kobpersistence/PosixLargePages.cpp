@@ -7,21 +7,34 @@
 
 namespace kob::persistence {
 
-void expectUseOf(void* block, std::size_t size) noexcept {
+namespace {
+
 #if defined(MADV_HUGEPAGE)
-  constexpr std::uintptr_t largePage = std::uintptr_t{2} << 20;
-  // What is smaller is likely to lie in memory that was used before, and comes without new pages.
-  constexpr std::size_t smallest = 4 * largePage;
-  // Whole large pages within the block only: what lies beside it is not to grow.
-  const auto start = reinterpret_cast<std::uintptr_t>(block);
+
+constexpr std::uintptr_t largePage = std::uintptr_t{2} << 20;
+constexpr std::uintptr_t smallPage = std::uintptr_t{4} << 10;
+
+void expectUse(void* memory, std::size_t size) noexcept {
+  // Whole large pages only: what lies beside the memory is not to grow. A page that all but belongs to it
+  // counts.
+  const auto start = reinterpret_cast<std::uintptr_t>(memory);
   const std::uintptr_t first = (start + largePage - 1) & ~(largePage - 1);
-  const std::uintptr_t last = (start + size) & ~(largePage - 1);
-  if (size >= smallest) {
-    madvise(static_cast<char*>(block) + (first - start), last - first, MADV_HUGEPAGE);
+  const std::uintptr_t last = (start + size + smallPage - 1) & ~(largePage - 1);
+  if (last > first) {
+    // Only a hint: without large pages the memory comes in small ones.
+    madvise(static_cast<char*>(memory) + (first - start), last - first, MADV_HUGEPAGE);
   }
+}
+
+#endif
+
+}  // namespace
+
+LargePages largePages() noexcept {
+#if defined(MADV_HUGEPAGE)
+  return {largePage, &expectUse};
 #else
-  static_cast<void>(block);
-  static_cast<void>(size);
+  return {};
 #endif
 }
 

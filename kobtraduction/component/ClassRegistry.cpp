@@ -16,9 +16,13 @@ struct KnownClass {
 // The identifiers are stored in files and known to hosts: they never change.
 constexpr KnownClass knownClasses[] = {
     {u"KOBTraduction.KOBModeleTraduction",
-     []() -> PersistRef { return std::make_shared<KOBModeleTraduction>(); }},
-    {u"KOBTraduction.KOBCellTraduction", []() -> PersistRef { return KOBCellTraduction::create(); }},
-    {u"KOBTraduction.KOBTraductionObj", []() -> PersistRef { return std::make_shared<KOBTraductionObj>(); }},
+     [](ObjectPool&) -> PersistRef { return std::make_shared<KOBModeleTraduction>(); }},
+    {u"KOBTraduction.KOBCellTraduction",
+     [](ObjectPool& pool) -> PersistRef { return KOBCellTraduction::createIn(pool); }},
+    {u"KOBTraduction.KOBTraductionObj",
+     [](ObjectPool& pool) -> PersistRef {
+       return std::allocate_shared<KOBTraductionObj>(PoolAllocator<KOBTraductionObj>(pool));
+     }},
 };
 
 }  // namespace

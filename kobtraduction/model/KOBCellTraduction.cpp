@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include <kobtraduction/base/Failure.h>
 #include <kobtraduction/base/MetBefore.h>
+#include <kobtraduction/base/ObjectPool.h>
 #include <kobtraduction/component/Global_Util.h>
 #include <kobtraduction/model/CellWalk.h>
 #include <kobtraduction/model/KOBCellTraduction.h>
@@ -63,6 +64,10 @@ KOBCellTraduction::~KOBCellTraduction() {
 
 std::shared_ptr<KOBCellTraduction> KOBCellTraduction::create() {
   return std::make_shared<KOBCellTraduction>(Key{});
+}
+
+std::shared_ptr<KOBCellTraduction> KOBCellTraduction::createIn(ObjectPool& pool) {
+  return std::allocate_shared<KOBCellTraduction>(PoolAllocator<KOBCellTraduction>(pool), Key{});
 }
 
 std::shared_ptr<KOBCellTraduction> KOBCellTraduction::createControl() {

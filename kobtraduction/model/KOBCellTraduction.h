@@ -21,6 +21,7 @@ namespace kob {
 
 class HostObject;
 class KOBModeleTraduction;
+class ObjectPool;
 using HostRef = std::shared_ptr<HostObject>;
 
 using EntryList = OrderedList<std::shared_ptr<KOBTraductionObj>, WatchedEntries,
@@ -47,6 +48,8 @@ class KOB_EXPORT KOBCellTraduction final : public IKOBVBPersistStream,
  public:
   /// A leaf holding one message with one empty text per language.
   static std::shared_ptr<KOBCellTraduction> create();
+  /// The same, in the pool's room.
+  static std::shared_ptr<KOBCellTraduction> createIn(ObjectPool& pool);
   /// Called by create() only.
   explicit KOBCellTraduction(Key);
   KOBCellTraduction(const KOBCellTraduction&) = delete;

@@ -116,12 +116,13 @@ class Reader {
   const PersistRef& filled(std::size_t index) {
     PersistRef& object = objects_.at(index);
     if (object == nullptr) {
-      object = findClass(file_[index].progId)();
+      object = findClass(file_[index].progId)(pool_);
       read(index, *object);
     }
     return object;
   }
 
+  ObjectPool pool_;
   const ScriptedService::File& file_;
   const AtValue& atValue_;
   std::vector<PersistRef> objects_;

@@ -15,11 +15,7 @@ namespace {
 std::atomic<std::size_t> inUse = 0;
 std::atomic<std::size_t> most = 0;
 
-}  // namespace
-
-// Not inlined: the compiler would see memory of malloc() given to delete, or the other way round.
-__attribute__((noinline)) void* operator new(std::size_t size) {
-  void* const block = std::malloc(size);
+void* counted(void* block) {
   if (block == nullptr) {
     throw std::bad_alloc();
   }
@@ -30,12 +26,28 @@ __attribute__((noinline)) void* operator new(std::size_t size) {
   return block;
 }
 
+}  // namespace
+
+// Not inlined: the compiler would see memory of malloc() given to delete, or the other way round.
+__attribute__((noinline)) void* operator new(std::size_t size) {
+  return counted(std::malloc(size));
+}
+
 __attribute__((noinline)) void operator delete(void* block) noexcept {
   inUse -= malloc_usable_size(block);
   std::free(block);
 }
 
 void operator delete(void* block, std::size_t /*size*/) noexcept {
+  operator delete(block);
+}
+
+__attribute__((noinline)) void* operator new(std::size_t size, std::align_val_t alignment) {
+  const auto multiple = static_cast<std::size_t>(alignment);
+  return counted(std::aligned_alloc(multiple, (size + multiple - 1) / multiple * multiple));
+}
+
+void operator delete(void* block, std::align_val_t /*alignment*/) noexcept {
   operator delete(block);
 }
 
@@ -72,6 +84,30 @@ class MemoryTest : public ::testing::Test, public ModelTestScope {
 TEST_F(MemoryTest, ManySmallCells) {
   const FileBytes cell = record(1, 2, emptyText + emptyText + longValue(2) + longValue(0) + no);
   EXPECT_LT(takenPerByte(children(6, 100'000, cell).bytes(), true), 100);
+}
+
+TEST_F(MemoryTest, WhatWasLoadedIsGivenBackInWhateverOrderItGoes) {
+  const FileBytes cell = record(1, 2, letters("n") + emptyText + longValue(2) + longValue(0) + no);
+  MemoryService service;
+  TestFile file = children(6, 100'000, cell);
+  file.units = 100'000;
+  service.storage.files[u"m"] = file.bytes();
+  const std::size_t before = inUse;
+  {
+    std::vector<CellRef> kept;
+    {
+      KOBModeleTraduction model;
+      ASSERT_TRUE(model.Load(u"m"));
+      const auto cells = model.Racine()->ColCell();
+      for (std::int32_t i = 1; i <= cells->Count(); i += 997) {
+        kept.push_back(cells->Item(i));
+      }
+    }
+    EXPECT_EQ(kept.back()->nom(), u"n");
+    std::reverse(kept.begin(), kept.end());
+  }
+  // Some state of the thread may have been made on the way.
+  EXPECT_LT(inUse, before + 10'000);
 }
 
 TEST_F(MemoryTest, ManyRepeatedTexts) {

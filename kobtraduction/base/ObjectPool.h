@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: The KOBTraduction authors
+#pragma once
+
+#include <kobtraduction/base/Export.h>
+
+#include <cstddef>
+
+namespace kob {
+
+/// The large pages of a system, which come for a fraction of the cost of as many small ones.
+struct LargePages {
+  /// In bytes; 0 when there are none.
+  std::size_t size = 0;
+  /// Told of memory that is about to be used as a whole, and its size in bytes. Null when there are none.
+  void (*expectUse)(void* memory, std::size_t size) noexcept = nullptr;
+};
+
+/// Room for very many small objects that are made one after the other and mostly go together: those of a
+/// loaded file. It is cut from chunks, which takes a fraction of asking for each object's. A chunk is given
+/// back with the last object in it, so objects may go in any order, after the pool, and on other threads;
+/// all of a pool are made on one.
+class KOB_EXPORT ObjectPool {
+ public:
+  /// The largest object that there is room for, in bytes.
+  static constexpr std::size_t largestObject = 1024;
+
+  /// About how many objects will come; there may be more, or fewer.
+  explicit ObjectPool(std::size_t objects = 0, LargePages pages = {}) noexcept
+      : expected_(objects), pages_(pages) {}
+  ObjectPool(const ObjectPool&) = delete;
+  ObjectPool& operator=(const ObjectPool&) = delete;
+  ~ObjectPool();
+
+  /// False in builds whose sanitizer is to see each object by itself: they do not share memory there.
+  static bool isPooling() noexcept;
+
+  /// Room for one object, aligned for any. Throws std::bad_alloc.
+  void* allocate(std::size_t size);
+  /// Gives back what any pool's allocate() returned.
+  static void deallocate(void* object) noexcept;
+
+ private:
+  struct Chunk;
+
+  void addChunk();
+  /// No more objects go into the present chunk.
+  void letGo() noexcept;
+
+  /// Objects that are still to come.
+  std::size_t expected_;
+  LargePages pages_;
+  Chunk* chunk_ = nullptr;
+  /// Of the chunk, in bytes: how large it is, and what is taken of it.
+  std::size_t size_ = 0;
+  std::size_t used_ = 0;
+  /// The objects that were made in it.
+  std::size_t objects_ = 0;
+};
+
+/// The pool as an allocator, for std::allocate_shared. It must not allocate once the pool is gone.
+template <class T>
+class PoolAllocator {
+ public:
+  using value_type = T;
+
+  explicit PoolAllocator(ObjectPool& pool) noexcept : pool_(&pool) {}
+  template <class Other>
+  PoolAllocator(const PoolAllocator<Other>& other) noexcept : pool_(other.pool()) {}
+
+  ObjectPool* pool() const noexcept { return pool_; }
+  T* allocate(std::size_t count) {
+    static_assert(sizeof(T) <= ObjectPool::largestObject);
+    return static_cast<T*>(pool_->allocate(count * sizeof(T)));
+  }
+  static void deallocate(T* object, std::size_t /*count*/) noexcept { ObjectPool::deallocate(object); }
+
+ private:
+  ObjectPool* pool_;
+};
+
+template <class T, class Other>
+bool operator==(const PoolAllocator<T>& a, const PoolAllocator<Other>& b) noexcept {
+  return a.pool() == b.pool();
+}
+
+}  // namespace kob
