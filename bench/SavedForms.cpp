@@ -15,6 +15,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <stdexcept>
 #include <string>
@@ -154,6 +155,34 @@ std::size_t readAll(const kob::KOBModeleTraduction& model) {
     }
   }
   return units;
+}
+
+std::size_t readAll(const QList<QStringList>& lists) {
+  std::size_t units = 0;
+  for (const QStringList& list : lists) {
+    for (const QString& text : list) {
+      units += static_cast<std::size_t>(text.size()) + (text.isEmpty() ? 0 : text.back().unicode() % 2);
+    }
+  }
+  return units;
+}
+
+std::size_t readAll(const pugi::xml_document& document) {
+  std::size_t bytes = 0;
+  std::vector<pugi::xml_node> open{document.first_child()};
+  while (!open.empty()) {
+    const pugi::xml_node cell = open.back();
+    open.pop_back();
+    bytes += std::strlen(cell.attribute("name").value());
+    for (const pugi::xml_node child : cell.children()) {
+      if (std::strcmp(child.name(), "cell") == 0) {
+        open.push_back(child);
+      } else {
+        bytes += std::strlen(child.child_value());
+      }
+    }
+  }
+  return bytes;
 }
 
 void findAll(const kob::KOBModeleTraduction& model) {

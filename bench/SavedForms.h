@@ -42,8 +42,10 @@ class SavedForms {
   int entries_;
 };
 
-/// The sum of the lengths of all texts: reads every cell and every text.
+/// The sum of the lengths of all texts, in each of the ways: reads every cell and every text.
 std::size_t readAll(const kob::KOBModeleTraduction& model);
+std::size_t readAll(const QList<QStringList>& lists);
+std::size_t readAll(const pugi::xml_document& document);
 
 /// Finds every cell by its name, so that all tables of names are made.
 void findAll(const kob::KOBModeleTraduction& model);
