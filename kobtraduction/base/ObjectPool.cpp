@@ -21,37 +21,56 @@ constexpr bool pools = true;
 
 /// What an object usually needs, in bytes.
 constexpr std::size_t usualObject = 160;
+/// More are not provided for at once.
+constexpr std::size_t mostExpected = std::size_t{1} << 20;
 constexpr std::size_t smallestChunk = std::size_t{2} << 10;
 constexpr std::size_t usualChunk = std::size_t{64} << 10;
 /// What a chunk lacks of a large page: room for what the system keeps of each block, so that chunks lie side
 /// by side.
 constexpr std::size_t betweenChunks = 64;
-constexpr std::size_t alignment = alignof(std::max_align_t);
-
-/// In front of each object: the chunk that it lies in.
-constexpr std::size_t linkSize = sizeof(void*);
-static_assert(linkSize <= alignment);
+constexpr std::size_t anyAlignment = alignof(std::max_align_t);
 
 constexpr std::size_t roundUp(std::size_t size) noexcept {
-  return (size + alignment - 1) & ~(alignment - 1);
+  return (size + anyAlignment - 1) & ~(anyAlignment - 1);
 }
 
 }  // namespace
 
-struct ObjectPool::Chunk {
+class ObjectPool::Chunk {
+ public:
+  /// `size` bytes, this included, which begin at a multiple of `alignment`.
+  Chunk(std::size_t size, std::align_val_t alignment) noexcept
+      : used_(roundUp(sizeof(Chunk))), size_(size), alignment_(alignment) {}
+
+  bool hasRoom(std::size_t size) const noexcept { return roundUp(size) <= size_ - used_; }
+  void* take(std::size_t size) noexcept {
+    void* const room = reinterpret_cast<char*>(this) + used_;
+    used_ += roundUp(size);
+    ++made_;
+    return room;
+  }
+
+  void leave() noexcept { leave(1); }
+  /// No more objects come.
+  void close() noexcept { leave(open - made_); }
+
+ private:
   /// More than the objects that a chunk has room for.
   static constexpr std::size_t open = std::size_t{1} << 30;
 
-  /// Objects that are there; as long as more may come, `open` less those that went.
-  std::atomic<std::size_t> objects;
-  /// What the chunk begins at a multiple of, in bytes.
-  std::align_val_t alignment;
-
   void leave(std::size_t count) noexcept {
-    if (objects.fetch_sub(count, std::memory_order_acq_rel) == count) {
-      ::operator delete(this, alignment);
+    if (objects_.fetch_sub(count, std::memory_order_acq_rel) == count) {
+      ::operator delete(this, alignment_);
     }
   }
+
+  /// Objects that are there; as long as more may come, `open` less those that went.
+  std::atomic<std::size_t> objects_ = open;
+  /// Objects that came.
+  std::size_t made_ = 0;
+  std::size_t used_;
+  std::size_t size_;
+  std::align_val_t alignment_;
 };
 
 ObjectPool::~ObjectPool() {
@@ -60,7 +79,7 @@ ObjectPool::~ObjectPool() {
 
 void ObjectPool::letGo() noexcept {
   if (chunk_ != nullptr) {
-    chunk_->leave(Chunk::open - objects_);
+    chunk_->close();
     chunk_ = nullptr;
   }
 }
@@ -69,48 +88,40 @@ bool ObjectPool::isPooling() noexcept {
   return pools;
 }
 
-void ObjectPool::addChunk() {
-  static_assert(smallestChunk >= roundUp(sizeof(Chunk) + linkSize) + roundUp(linkSize + largestObject));
-  const std::size_t wanted = usualObject * std::min(expected_, Chunk::open / usualObject);
+ObjectPool::Chunk* ObjectPool::nextChunk() {
+  static_assert(smallestChunk >= roundUp(sizeof(Chunk)) + roundUp(largestObject));
+  if (!pools || (chunk_ != nullptr && chunk_->hasRoom(largestObject))) {
+    expected_ -= expected_ > 0 ? 1 : 0;
+    return chunk_;
+  }
+  const std::size_t wanted = usualObject * std::min(expected_, mostExpected);
   const bool isLarge = pages_.size != 0 && wanted >= pages_.size;
   const std::size_t size =
       isLarge ? pages_.size - betweenChunks : std::clamp(wanted, smallestChunk, usualChunk);
-  const std::align_val_t chunkAlignment{isLarge ? pages_.size : alignment};
+  const std::align_val_t chunkAlignment{isLarge ? pages_.size : anyAlignment};
   void* const memory = ::operator new(size, chunkAlignment);
   letGo();
   if (isLarge) {
     pages_.expectUse(memory, size);
   }
-  chunk_ = new (memory) Chunk{Chunk::open, chunkAlignment};
-  size_ = size;
-  used_ = roundUp(sizeof(Chunk) + linkSize) - linkSize;
-  objects_ = 0;
+  chunk_ = new (memory) Chunk(size, chunkAlignment);
+  expected_ -= expected_ > 0 ? 1 : 0;
+  return chunk_;
 }
 
-void* ObjectPool::allocate(std::size_t size) {
+void* ObjectPool::allocate(Chunk* chunk, std::size_t size) {
   if constexpr (!pools) {
     return ::operator new(size);
   }
-  const std::size_t taken = roundUp(linkSize + size);
-  if (chunk_ == nullptr || taken > size_ - used_) {
-    addChunk();
-  }
-  char* const object = reinterpret_cast<char*>(chunk_) + used_ + linkSize;
-  std::memcpy(object - linkSize, &chunk_, linkSize);
-  used_ += taken;
-  ++objects_;
-  expected_ -= expected_ > 0 ? 1 : 0;
-  return object;
+  return chunk->take(size);
 }
 
-void ObjectPool::deallocate(void* object) noexcept {
+void ObjectPool::deallocate(Chunk* chunk, void* object) noexcept {
   if constexpr (!pools) {
     ::operator delete(object);
     return;
   }
-  Chunk* chunk = nullptr;
-  std::memcpy(&chunk, static_cast<const char*>(object) - linkSize, linkSize);
-  chunk->leave(1);
+  chunk->leave();
 }
 
 }  // namespace kob

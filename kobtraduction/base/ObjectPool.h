@@ -21,6 +21,8 @@ struct LargePages {
 /// all of a pool are made on one.
 class KOB_EXPORT ObjectPool {
  public:
+  class Chunk;
+
   /// The largest object that there is room for, in bytes.
   static constexpr std::size_t largestObject = 1024;
 
@@ -34,15 +36,14 @@ class KOB_EXPORT ObjectPool {
   /// False in builds whose sanitizer is to see each object by itself: they do not share memory there.
   static bool isPooling() noexcept;
 
-  /// Room for one object, aligned for any. Throws std::bad_alloc.
-  void* allocate(std::size_t size);
-  /// Gives back what any pool's allocate() returned.
-  static void deallocate(void* object) noexcept;
+  /// The chunk that the next object goes into. Throws std::bad_alloc.
+  Chunk* nextChunk();
+  /// Room for one object in the chunk that nextChunk() has returned just now, aligned for any.
+  static void* allocate(Chunk* chunk, std::size_t size);
+  /// Gives back what allocate() returned.
+  static void deallocate(Chunk* chunk, void* object) noexcept;
 
  private:
-  struct Chunk;
-
-  void addChunk();
   /// No more objects go into the present chunk.
   void letGo() noexcept;
 
@@ -50,37 +51,33 @@ class KOB_EXPORT ObjectPool {
   std::size_t expected_;
   LargePages pages_;
   Chunk* chunk_ = nullptr;
-  /// Of the chunk, in bytes: how large it is, and what is taken of it.
-  std::size_t size_ = 0;
-  std::size_t used_ = 0;
-  /// The objects that were made in it.
-  std::size_t objects_ = 0;
 };
 
-/// The pool as an allocator, for std::allocate_shared. It must not allocate once the pool is gone.
+/// The pool as an allocator of one object, for std::allocate_shared.
 template <class T>
 class PoolAllocator {
  public:
   using value_type = T;
 
-  explicit PoolAllocator(ObjectPool& pool) noexcept : pool_(&pool) {}
+  explicit PoolAllocator(ObjectPool& pool) : chunk_(pool.nextChunk()) {}
   template <class Other>
-  PoolAllocator(const PoolAllocator<Other>& other) noexcept : pool_(other.pool()) {}
+  PoolAllocator(const PoolAllocator<Other>& other) noexcept : chunk_(other.chunk()) {}
 
-  ObjectPool* pool() const noexcept { return pool_; }
+  ObjectPool::Chunk* chunk() const noexcept { return chunk_; }
   T* allocate(std::size_t count) {
     static_assert(sizeof(T) <= ObjectPool::largestObject);
-    return static_cast<T*>(pool_->allocate(count * sizeof(T)));
+    return static_cast<T*>(ObjectPool::allocate(chunk_, count * sizeof(T)));
   }
-  static void deallocate(T* object, std::size_t /*count*/) noexcept { ObjectPool::deallocate(object); }
+  void deallocate(T* object, std::size_t /*count*/) noexcept { ObjectPool::deallocate(chunk_, object); }
 
  private:
-  ObjectPool* pool_;
+  // It is kept with each object, and all that has to be known of it when it goes.
+  ObjectPool::Chunk* chunk_;
 };
 
 template <class T, class Other>
 bool operator==(const PoolAllocator<T>& a, const PoolAllocator<Other>& b) noexcept {
-  return a.pool() == b.pool();
+  return a.chunk() == b.chunk();
 }
 
 }  // namespace kob

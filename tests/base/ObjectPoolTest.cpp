@@ -25,12 +25,14 @@ constexpr LargePages pages = {
 
 /// An object of any size, filled with a number.
 struct Filled {
+  ObjectPool::Chunk* chunk;
   unsigned char* bytes;
   std::size_t size;
   unsigned char number;
 
   Filled(ObjectPool& pool, std::size_t length, int filling)
-      : bytes(static_cast<unsigned char*>(pool.allocate(length))),
+      : chunk(pool.nextChunk()),
+        bytes(static_cast<unsigned char*>(ObjectPool::allocate(chunk, length))),
         size(length),
         number(static_cast<unsigned char>(filling)) {
     std::memset(bytes, number, size);
@@ -54,7 +56,7 @@ std::vector<Filled> manyObjects(ObjectPool& pool) {
 void giveBack(const std::vector<Filled>& objects, std::size_t first, std::size_t step) {
   for (std::size_t i = first; i < objects.size(); i += step) {
     EXPECT_TRUE(objects[i].isWhole()) << "object " << i;
-    ObjectPool::deallocate(objects[i].bytes);
+    ObjectPool::deallocate(objects[i].chunk, objects[i].bytes);
   }
 }
 
@@ -78,7 +80,7 @@ TEST(ObjectPoolTest, ObjectsGoInAnyOrderWhileOthersCome) {
   std::shuffle(order.begin(), order.end(), std::minstd_rand(1));
   for (const std::size_t i : order) {
     EXPECT_TRUE(second[i].isWhole());
-    ObjectPool::deallocate(second[i].bytes);
+    ObjectPool::deallocate(second[i].chunk, second[i].bytes);
   }
 }
 
