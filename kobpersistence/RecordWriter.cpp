@@ -16,12 +16,8 @@ constexpr std::size_t mostHead = longestVarint + 1 + longestVarint;
 constexpr std::int32_t longestText = std::numeric_limits<std::int32_t>::max();
 /// Texts up to this length have the short form; the length then is one byte.
 constexpr std::size_t longestShort = 0x7F;
-/// Units of several texts that are narrowed at once.
+/// Units of several texts that are looked at together: few, as one of them may turn out to be wide.
 constexpr std::size_t longestRun = 512;
-/// A text is copied in blocks of so many bytes; all of them together are no longer than this.
-constexpr std::size_t block = 32;
-constexpr std::size_t longestBlocks = longestShort + 1;
-static_assert(longestBlocks % block == 0);
 /// The longest value, without the units of a text.
 constexpr std::size_t longestValue = 1 + sizeof(double);
 
@@ -108,7 +104,7 @@ void RecordWriter::WriteStrings(std::span<const TextView> texts) {
 
 std::size_t RecordWriter::writeRun(std::span<const TextView> texts) noexcept {
   // The run ends at a text that lies elsewhere; an empty one lies anywhere.
-  const char16_t* begin = nullptr;
+  const char16_t* from = nullptr;
   std::size_t units = 0;
   std::size_t count = 0;
   for (; count < texts.size(); ++count) {
@@ -116,42 +112,37 @@ std::size_t RecordWriter::writeRun(std::span<const TextView> texts) noexcept {
     if (text.empty()) {
       continue;
     }
-    begin = units == 0 ? text.data() : begin;
-    if (text.size() > longestShort || units + text.size() > longestRun || text.data() != begin + units) {
+    from = units == 0 ? text.data() : from;
+    if (text.size() > longestShort || units + text.size() > longestRun || text.data() != from + units) {
       break;
     }
     units += text.size();
   }
-  if (count < 2) {
+  if (count < 2 || !hasRoom(units + 2 * count + narrowBlock)) {
     return 0;
   }
-  // All units are narrowed together, and from there come the texts, in blocks that go beyond their ends.
-  Byte run[longestRun + longestBlocks];
-  if (!hasRoom(units + 2 * count + longestBlocks) || !narrow(run, begin, units)) {
-    return 0;
-  }
-  const Byte* from = run;
-  Byte* to = to_;
-  for (const TextView text : texts.first(count)) {
-    const std::size_t size = text.size();
+  const char16_t* const end = from + units;
+  std::size_t written = 0;
+  for (; written < count; ++written) {
+    const std::size_t size = texts[written].size();
     if (size == 0) {
-      to = storeTag(to, Tag::EmptyText);
+      to_ = storeTag(to_, Tag::EmptyText);
       lastTextSize_ = 0;
       continue;
     }
-    to[0] = static_cast<Byte>(Tag::NarrowText);
-    to[1] = static_cast<Byte>(size);
-    std::memcpy(to + 2, from, block);
-    for (std::size_t i = block; i < size; i += block) {
-      std::memcpy(to + 2 + i, from + i, block);
+    // A whole block takes the same time for most texts, and what it has too much is written over.
+    const bool isInBlock = size <= narrowBlock && static_cast<std::size_t>(end - from) >= narrowBlock;
+    if (!(isInBlock ? narrowWhole(to_ + 2, from) : narrow(to_ + 2, from, size))) {
+      break;
     }
+    to_[0] = static_cast<Byte>(Tag::NarrowText);
+    to_[1] = static_cast<Byte>(size);
+    to_ = endText(to_, to_ + 2 + size);
     from += size;
-    to = endText(to, to + 2 + size);
+    units_ += size;
   }
-  to_ = to;
-  units_ += units;
-  ones_ = nullptr;
-  return count;
+  ones_ = written > 0 ? nullptr : ones_;
+  return written;
 }
 
 bool RecordWriter::writeShort(TextView text) noexcept {

@@ -66,8 +66,8 @@ class RecordWriter final : public PersistStream {
   /// Writes a short text of units below 256, without a failure; false, and nothing is written, for another
   /// one.
   bool writeShort(TextView text) noexcept;
-  /// Writes short texts that lie one behind the other and have units below 256, without a failure; the number
-  /// of those at the front that do, perhaps 0.
+  /// Writes short texts that lie one behind the other and have units below 256, without a failure; how many,
+  /// perhaps 0. One that would do may be left for writeShort().
   std::size_t writeRun(std::span<const TextView> texts) noexcept;
   /// Where a text ends that was put there: at once when it is the one before it once more.
   Byte* endText(Byte* begin, Byte* end) noexcept;
