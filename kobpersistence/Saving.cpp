@@ -66,10 +66,6 @@ class ClassNumbers {
   std::vector<Met> met_;
 };
 
-/// What is fetched of an object that was named.
-constexpr std::size_t cacheLine = 64;
-constexpr std::size_t fetchedSize = 3 * cacheLine;
-
 PersistRef borrowed(IKOBVBPersistStream& object) {
   return {PersistRef(), &object};
 }
@@ -106,11 +102,6 @@ class TreeSave final : private NamedObjects {
   ObjectForm name(const PersistRef& object) override {
     isEachNew_ = met_.add(object.get()) && isEachNew_;
     pending_.push_back({object, level_ + 1});
-    // Its turn comes soon.
-    const char* const start = reinterpret_cast<const char*>(object.get());
-    for (std::size_t line = 0; line < fetchedSize; line += cacheLine) {
-      __builtin_prefetch(start + line);
-    }
     return {};
   }
 

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include <kobtraduction/base/Failure.h>
 #include <kobtraduction/component/Global_Util.h>
-#include <kobtraduction/model/FetchCells.h>
 #include <kobtraduction/model/KOBModeleTraduction.h>
 #include <kobtraduction/model/PathMemo.h>
 #include <kobtraduction/persistence/PersistStream.h>
@@ -29,8 +28,6 @@ constexpr std::int32_t cellVersion = 2;
 constexpr std::int32_t usualEntries = 2;
 /// Texts of an entry that are written at once; few models have more languages.
 constexpr std::size_t textsTogether = 16;
-/// What the texts of an entry need, in bytes.
-constexpr std::size_t usualTexts = 320;
 /// Twice as many is a number too.
 constexpr std::int32_t mostLanguagesAtOnce = 1 << 20;
 /// So many texts of an entry are read in one go.
@@ -193,12 +190,8 @@ void KOBCellTraduction::writeChildren(PersistStream& stream) const {
   const std::int32_t numbers[] = {TypeCell(), list != nullptr ? list->Count() : 0};
   stream.WriteLongs(std::span(numbers, list != nullptr ? 2 : 1));
   const CellList& cells = mustBeSet(list);
-  int fetched = 0;
-  for (auto next = cells.begin(); next != cells.end(); ++next) {
-    // Their turn comes soon.
-    fetched = fetched > 0 ? fetched : fetchCells(next, cells, usualTexts);
-    --fetched;
-    stream.WriteKept(KeptObject(*next));
+  for (const auto& cell : cells) {
+    stream.WriteKept(KeptObject(cell));
   }
 }
 
