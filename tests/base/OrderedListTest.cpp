@@ -73,6 +73,28 @@ TYPED_TEST(OrderedLists, InsertsInFrontOfAPosition) {
   EXPECT_EQ(this->contents(list), (std::vector<std::string>{"x", "a", "b", "y", "c"}));
 }
 
+TYPED_TEST(OrderedLists, ClearedHoldsNothingAndTakesItemsAgain) {
+  typename TestFixture::Words list = this->abc();
+  list.Clear();
+  EXPECT_EQ(list.Count(), 0);
+  expectInvalidIndex([&] { (void)list.Item(1); });
+  list.Clear();
+  list.Add("d");
+  EXPECT_EQ(this->contents(list), (std::vector<std::string>{"d"}));
+}
+
+TYPED_TEST(OrderedLists, AnItemThatIsReleasedByClearFindsTheListEmpty) {
+  typename TestFixture::References list;
+  std::int32_t found = -1;
+  const auto look = [&](int* item) {
+    found = list.Count();
+    delete item;
+  };
+  list.Add(std::shared_ptr<int>(new int(1), look));
+  list.Clear();
+  EXPECT_EQ(found, 0);
+}
+
 TYPED_TEST(OrderedLists, RemovesByPositionAndClosesTheGap) {
   typename TestFixture::Words list = this->abc();
   list.Remove(2);
