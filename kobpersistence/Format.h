@@ -19,6 +19,8 @@ inline constexpr std::size_t mostClasses = 255;
 /// Objects on the longest way from the first object down: a model, its root, 10 000 levels of cells, an
 /// entry.
 inline constexpr std::uint32_t deepestNesting = 10'003;
+/// Texts up to this length have one byte for it.
+inline constexpr std::size_t longestShort = 0x7F;
 /// Small integers 1 that one value may stand for; it bounds what a file can grow to in memory.
 inline constexpr std::uint32_t mostOnes = 16;
 

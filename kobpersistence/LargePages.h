@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #pragma once
 
-#include <kobtraduction/base/ObjectPool.h>
+#include <kobtraduction/base/LargePages.h>
 
 #include <cstddef>
 #include <memory>

@@ -9,13 +9,6 @@
 
 namespace kob::persistence {
 
-namespace {
-
-/// Texts up to this length have one byte for it.
-constexpr std::size_t longestShort = 0x7F;
-
-}  // namespace
-
 bool takeLongVarint(const Byte*& from, const Byte* end, std::uint32_t& number) noexcept {
   number = 0;
   for (unsigned shift = 0; shift < 7 * longestVarint; shift += 7) {

@@ -14,8 +14,6 @@ namespace {
 /// Before the values: length, class and version, which are known when the values are.
 constexpr std::size_t mostHead = longestVarint + 1 + longestVarint;
 constexpr std::int32_t longestText = std::numeric_limits<std::int32_t>::max();
-/// Texts up to this length have the short form; the length then is one byte.
-constexpr std::size_t longestShort = 0x7F;
 /// Units of several texts that are looked at together: few, as one of them may turn out to be wide.
 constexpr std::size_t longestRun = 512;
 /// The longest value, without the units of a text.

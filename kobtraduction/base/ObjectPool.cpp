@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstring>
 #include <new>
 
 namespace kob {
@@ -90,23 +89,25 @@ bool ObjectPool::isPooling() noexcept {
 
 ObjectPool::Chunk* ObjectPool::nextChunk() {
   static_assert(smallestChunk >= roundUp(sizeof(Chunk)) + roundUp(largestObject));
-  if (!pools || (chunk_ != nullptr && chunk_->hasRoom(largestObject))) {
-    expected_ -= expected_ > 0 ? 1 : 0;
-    return chunk_;
+  if (pools && (chunk_ == nullptr || !chunk_->hasRoom(largestObject))) {
+    beginChunk();
   }
+  expected_ -= expected_ > 0 ? 1 : 0;
+  return chunk_;
+}
+
+void ObjectPool::beginChunk() {
   const std::size_t wanted = usualObject * std::min(expected_, mostExpected);
   const bool isLarge = pages_.size != 0 && wanted >= pages_.size;
   const std::size_t size =
       isLarge ? pages_.size - betweenChunks : std::clamp(wanted, smallestChunk, usualChunk);
-  const std::align_val_t chunkAlignment{isLarge ? pages_.size : anyAlignment};
-  void* const memory = ::operator new(size, chunkAlignment);
+  const std::align_val_t alignment{isLarge ? pages_.size : anyAlignment};
+  void* const memory = ::operator new(size, alignment);
   letGo();
   if (isLarge) {
     pages_.expectUse(memory, size);
   }
-  chunk_ = new (memory) Chunk(size, chunkAlignment);
-  expected_ -= expected_ > 0 ? 1 : 0;
-  return chunk_;
+  chunk_ = new (memory) Chunk(size, alignment);
 }
 
 void* ObjectPool::allocate(Chunk* chunk, std::size_t size) {

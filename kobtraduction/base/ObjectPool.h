@@ -2,18 +2,11 @@
 #pragma once
 
 #include <kobtraduction/base/Export.h>
+#include <kobtraduction/base/LargePages.h>
 
 #include <cstddef>
 
 namespace kob {
-
-/// The large pages of a system, which come for a fraction of the cost of as many small ones.
-struct LargePages {
-  /// In bytes; 0 when there are none.
-  std::size_t size = 0;
-  /// Told of memory that is about to be used as a whole, and its size in bytes. Null when there are none.
-  void (*expectUse)(void* memory, std::size_t size) noexcept = nullptr;
-};
 
 /// Room for very many small objects that are made one after the other and mostly go together: those of a
 /// loaded file. It is cut from chunks, which takes a fraction of asking for each object's. A chunk is given
@@ -44,6 +37,8 @@ class KOB_EXPORT ObjectPool {
   static void deallocate(Chunk* chunk, void* object) noexcept;
 
  private:
+  /// The next object goes into a new chunk.
+  void beginChunk();
   /// No more objects go into the present chunk.
   void letGo() noexcept;
 
