@@ -59,18 +59,19 @@ void RecordWriter::write(IKOBVBPersistStream& object, Byte classNumber) {
 
 void RecordWriter::endRecord(Byte classNumber) {
   // Backwards from the values, each number to where it ends.
-  start_ = buffer_.get() + mostHead;
-  const auto prepend = [this](std::uint32_t number) {
-    start_ -= varintSize(number);
-    storeVarint(start_, number);
+  Byte* start = buffer_.get() + mostHead;
+  const auto prepend = [&start](std::uint32_t number) {
+    start -= varintSize(number);
+    storeVarint(start, number);
   };
   prepend(zigzag(version_));
-  *--start_ = classNumber;
-  const auto size = static_cast<std::size_t>(to_ - start_);
+  *--start = classNumber;
+  const auto size = static_cast<std::size_t>(to_ - start);
   if (size > std::numeric_limits<std::uint32_t>::max()) {
     throw failure({u"One object needs more than 4 GB. Shorten its texts."});
   }
   prepend(static_cast<std::uint32_t>(size));
+  start_ = start;
 }
 
 void RecordWriter::WriteValue(const PersistValue& value) {
@@ -96,7 +97,16 @@ void RecordWriter::WriteStrings(std::span<const TextView> texts) {
       }
       written = 1;
     }
+    const TextView last = texts[written - 1];
     texts = texts.subspan(written);
+    // A cell's name mostly is its alias, too: the very same units, which need not be looked at again.
+    if (!texts.empty() && texts.front().data() == last.data() && texts.front().size() == last.size() &&
+        lastTextSize_ > 0 && hasRoom(1)) {
+      to_ = storeTag(to_, Tag::SameText);
+      lastTextSize_ = 0;
+      units_ += last.size();
+      texts = texts.subspan(1);
+    }
   }
 }
 
@@ -120,25 +130,28 @@ std::size_t RecordWriter::writeRun(std::span<const TextView> texts) noexcept {
     return 0;
   }
   const char16_t* const end = from + units;
+  // Kept apart from the writer's own, which a byte that is written might be for all that the compiler knows.
+  Byte* to = to_;
   std::size_t written = 0;
   for (; written < count; ++written) {
     const std::size_t size = texts[written].size();
     if (size == 0) {
-      to_ = storeTag(to_, Tag::EmptyText);
+      to = storeTag(to, Tag::EmptyText);
       lastTextSize_ = 0;
       continue;
     }
     // A whole block takes the same time for most texts, and what it has too much is written over.
     const bool isInBlock = size <= narrowBlock && static_cast<std::size_t>(end - from) >= narrowBlock;
-    if (!(isInBlock ? narrowWhole(to_ + 2, from) : narrow(to_ + 2, from, size))) {
+    if (!(isInBlock ? narrowWhole(to + 2, from) : narrow(to + 2, from, size))) {
       break;
     }
-    to_[0] = static_cast<Byte>(Tag::NarrowText);
-    to_[1] = static_cast<Byte>(size);
-    to_ = endText(to_, to_ + 2 + size);
+    to[0] = static_cast<Byte>(Tag::NarrowText);
+    to[1] = static_cast<Byte>(size);
+    to = endText(to, to + 2 + size);
     from += size;
-    units_ += size;
   }
+  units_ += units - static_cast<std::size_t>(end - from);
+  to_ = to;
   ones_ = written > 0 ? nullptr : ones_;
   return written;
 }

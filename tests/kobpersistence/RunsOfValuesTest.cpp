@@ -45,6 +45,10 @@ class RunsOfValuesTest : public ServiceTest {
       texts.push_back(units.substr(0, length));
       units.remove_prefix(length);
     }
+    expectSameTexts(texts);
+  }
+
+  void expectSameTexts(const std::vector<TextView>& texts) {
     EXPECT_EQ(saved([&](PersistStream& stream) { stream.WriteStrings(texts); }),
               saved([&](PersistStream& stream) {
                 for (const TextView text : texts) {
@@ -94,17 +98,30 @@ TEST_F(RunsOfValuesTest, ATextAndItsRepetitions) {
   expectSameTexts(u"one.two.one.", {4, 4, 4});
 }
 
+TEST_F(RunsOfValuesTest, TheVeryTextBefore) {
+  const Text other = u"other";
+  for (const Text& text :
+       {Text(u"name"), Text(u"n"), Text(), Text(u"wide \u0153"), narrowUnits(200), Text(200, u'\u0416')}) {
+    for (std::size_t times = 1; times <= 5; ++times) {
+      std::vector<TextView> texts(times, text);
+      texts.push_back(other);
+      texts.push_back(text);
+      texts.push_back(TextView(text).substr(0, text.size() / 2));
+      expectSameTexts(texts);
+    }
+  }
+}
+
+TEST_F(RunsOfValuesTest, TheVeryTextBeforeThatWasARepetitionItself) {
+  const TextView units = u"onceonce";
+  expectSameTexts({units.substr(0, 4), units.substr(4), units.substr(4), units.substr(4)});
+}
+
 TEST_F(RunsOfValuesTest, TextsThatLieApart) {
   const Text first = narrowUnits(20);
   const Text second = narrowUnits(30);
-  const std::array<TextView, 4> texts = {TextView(first).substr(10), TextView(first).substr(0, 10), second,
-                                         TextView(second).substr(0, 5)};
-  EXPECT_EQ(saved([&](PersistStream& stream) { stream.WriteStrings(texts); }),
-            saved([&](PersistStream& stream) {
-              for (const TextView text : texts) {
-                stream.WriteValue(PersistValue::string(text));
-              }
-            }));
+  expectSameTexts(
+      {TextView(first).substr(10), TextView(first).substr(0, 10), second, TextView(second).substr(0, 5)});
 }
 
 TEST_F(RunsOfValuesTest, MoreThanTheFirstBufferHolds) {
