@@ -141,7 +141,6 @@ void Container::checkRecords() {
   RecordCheck check(content_.bytes.get(), records(), texts_.get(), units);
   for (std::uint32_t i = records(); i-- > 0;) {
     const Record found = record(i);
-    fetchBefore(i);
     firstTexts_ = check.textsEnd();
     check.check(i, found.values, found.end);
   }

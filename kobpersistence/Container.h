@@ -41,15 +41,6 @@ class Container {
     const std::int32_t version = unzigzag(loadVarint(from));
     return {make, version, from, content_.bytes.get() + offsets_[number + 1]};
   }
-  /// Has the records before that one on their way from memory.
-  void fetchBefore(std::uint32_t number) const noexcept {
-    constexpr std::uint32_t ahead = 4;
-    if (number > ahead) {
-      const Byte* const start = content_.bytes.get() + offsets_[number - ahead];
-      __builtin_prefetch(start);
-      __builtin_prefetch(start + 64);
-    }
-  }
   std::uint32_t offset(std::uint32_t number) const noexcept { return offsets_[number]; }
 
   /// Where the texts of the last record begin; the others follow.

@@ -91,25 +91,14 @@ class Loading final : private FilledObjects {
     const char16_t* texts = container_.texts().get();
     for (std::uint32_t i = container_.records(); i-- > 1;) {
       const Record record = container_.record(i);
-      container_.fetchBefore(i);
       PersistRef object = record.make(pool_);
       reader.open(i, record, texts);
       object->read(reader);
       texts = reader.close();
-      // Names are looked at on the way, and lie too far from one another to be fetched in time by themselves.
-      fetchTexts(texts);
       if (sharedLeft > 0 && shared[sharedLeft - 1] == i) {
         shared_[--sharedLeft] = object;
       }
       waiting_.push_back(std::move(object));
-    }
-  }
-
-  [[maybe_unused]] static void fetchTexts(const char16_t* texts) noexcept {
-    constexpr std::size_t ahead = 512;
-    constexpr std::size_t line = 32;
-    for (std::size_t i = 0; i < 3 * line; i += line) {
-      __builtin_prefetch(texts + ahead + i);
     }
   }
 
