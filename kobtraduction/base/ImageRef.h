@@ -9,9 +9,9 @@
 
 namespace kob {
 
-/// Keeps the characters alive that texts are views of (the image of a loaded file), or nothing. Every loaded
-/// cell and entry has one, so it is one word, and copying it counts without regard to other threads: all
-/// references that were copied from one belong to one thread.
+/// Keeps the characters alive that texts are views of (those of a loaded file, or room made for them), or
+/// nothing. Every entry has one, so it is one word, and copying it counts without regard to other threads:
+/// all references that were copied from one belong to one thread.
 class KOB_EXPORT ImageRef {
  public:
   ImageRef() noexcept = default;
@@ -33,6 +33,10 @@ class KOB_EXPORT ImageRef {
       release(image_);
     }
   }
+
+  /// From now on keeps so many bytes alive, which are made here and uninitialised; returns where they are.
+  /// Throws std::bad_alloc.
+  void* makeRoom(std::size_t size);
 
   void swap(ImageRef& other) noexcept { std::swap(image_, other.image_); }
 

@@ -20,16 +20,22 @@ class GroupCompletion {
 
   void complete(std::span<KOBTraductionObj* const> group) {
     gather(group);
-    TextList& first = textsOf(*group.front());
-    first.FillGaps(texts_);
+    const TextList* filled = fill(*group.front(), nullptr);
     // The others' own texts are about to move.
     gather(group.first(1));
     for (KOBTraductionObj* const entry : group.subspan(1)) {
-      textsOf(*entry).FillGaps(texts_);
+      filled = fill(*entry, filled);
     }
   }
 
  private:
+  /// Fills an entry's gaps; `filled` is the list of the group whose run was made last, null for none. Returns
+  /// which one that is now.
+  const TextList* fill(KOBTraductionObj& entry, const TextList* filled) {
+    TextList& texts = textsOf(entry);
+    return texts.FillGaps(texts_, filled) ? &texts : filled;
+  }
+
   /// Of each language but the first the text that the first entry has or would be given.
   void gather(std::span<KOBTraductionObj* const> group) {
     std::fill(texts_.begin(), texts_.end(), TextView());

@@ -142,6 +142,15 @@ void TextList::takeRun(std::unique_ptr<char16_t[]> run, std::size_t capacity) no
   image_ = {};
 }
 
+void TextList::takeRun(const char16_t* run, ImageRef image) noexcept {
+  if (capacity_ > 0) {
+    delete[] units_;
+  }
+  units_ = run;
+  setCapacity(0);
+  image_ = std::move(image);
+}
+
 void TextList::Add(TextView text) {
   if (units_ == nullptr && text.empty()) {
     ++count_;

@@ -16,10 +16,10 @@
 namespace kob {
 
 /// The texts of one entry, item i in language i. It reads like an OrderedList of texts, but the texts lie one
-/// behind the other in one run of characters: the list's own, or a part of an image that the list keeps alive
-/// (a loaded file), which costs no allocation. The first change of a run that is not the list's own copies
-/// it. A position outside 1..count fails with FailureKind::InvalidIndex and changes nothing. A change of the
-/// first text is told (see EntryChanges.h). Used on one thread.
+/// behind the other in one run of characters: the list's own, or one in an image that the list keeps alive (a
+/// loaded file, or what completed lists share that read the same). The first change of a run that is not the
+/// list's own copies it. A position outside 1..count is FailureKind::InvalidIndex and changes nothing. A
+/// change of the first text is told (see EntryChanges.h). Used on one thread.
 class KOB_EXPORT TextList {
  public:
   TextList() noexcept;
@@ -52,8 +52,10 @@ class KOB_EXPORT TextList {
   /// that `source` lacks and this list wants, and has filled those before it.
   bool FillGaps(const TextList& source, std::int32_t first, std::int32_t last);
   /// Puts these texts in the place of the list's own that are "", item by item. They are not more than the
-  /// list has and lie apart from it; the first is "", as a reference text is no gap.
-  void FillGaps(std::span<const TextView> texts);
+  /// list has and lie apart from it; the first is "", as a reference text is no gap. A list that changes
+  /// shares its run then: that of `like`, which shares one or is null, when both read the same now, else one
+  /// that is made for it, and only then this is true.
+  bool FillGaps(std::span<const TextView> texts, const TextList* like);
   /// Puts the list's own texts behind the first in the place of those that are "", item by item; 0 when none
   /// behind the first is "" then. They are not more than the list has. A list whose texts are all "" has
   /// nothing to offer, and does not look: it answers as if all were missing.
@@ -96,6 +98,7 @@ class KOB_EXPORT TextList {
   std::uint32_t end(std::uint32_t item) const noexcept { return ends()[item]; }
   std::uint32_t start(std::uint32_t item) const noexcept { return item > 0 ? ends()[item - 1] : 0; }
   void setCapacity(std::size_t units) noexcept { capacity_ = static_cast<std::uint32_t>(units) & longestRun; }
+  TextView text(std::uint32_t item) const noexcept { return {units_ + start(item), end(item) - start(item)}; }
   std::uint32_t length() const noexcept { return units_ != nullptr ? start(count_) : 0; }
 
   /// Gives every text an end, when only "" was there so far.
@@ -110,9 +113,15 @@ class KOB_EXPORT TextList {
   void splice(std::uint32_t first, std::uint32_t last, TextView text);
   /// The list's run becomes this one, with room for so many units.
   void takeRun(std::unique_ptr<char16_t[]> run, std::size_t capacity) noexcept;
-  /// A run of its own, longer by so many units, with the text textFor(item) in the gap of each item.
+  /// The list's run becomes this one, which lies in an image.
+  void takeRun(const char16_t* run, ImageRef image) noexcept;
+  /// Writes the run with the text textFor(item) in the gap of each item, and the ends of it.
   template <class TextFor>
-  void makeFilledRun(std::size_t growth, TextFor textFor);
+  void writeFilled(char16_t* run, TextFor textFor);
+  /// The length of a run that is longer by so many units; throws std::bad_alloc for more than there may be.
+  std::size_t lengthWith(std::size_t growth) const;
+  /// Whether the list would read like the other one with these texts in its gaps.
+  bool isFilledLike(const TextList& other, std::span<const TextView> texts) const noexcept;
   void moveEnds(std::uint32_t firstItem, std::uint32_t by) noexcept;
 
   /// Null as long as all texts are ""; no text has an end then.

@@ -3,20 +3,25 @@
 #include <kobtraduction/model/TextList.h>
 
 #include <algorithm>
+#include <memory>
 #include <new>
+#include <utility>
 
 namespace kob {
 
-template <class TextFor>
-void TextList::makeFilledRun(std::size_t growth, TextFor textFor) {
+std::size_t TextList::lengthWith(std::size_t growth) const {
   const std::size_t total = length() + growth;
   if (total > longestRun) {
     throw std::bad_alloc();
   }
-  auto run = std::make_unique_for_overwrite<char16_t[]>(total);
+  return total;
+}
+
+template <class TextFor>
+void TextList::writeFilled(char16_t* run, TextFor textFor) {
   makeEnds();
   std::uint32_t* const ownEnds = ends();
-  char16_t* written = run.get();
+  char16_t* written = run;
   // Texts between two gaps are copied together, when the second one is reached.
   std::uint32_t copied = 0;
   std::uint32_t begin = 0;
@@ -28,10 +33,9 @@ void TextList::makeFilledRun(std::size_t growth, TextFor textFor) {
       copied = begin;
       written = std::copy(text.begin(), text.end(), written);
     }
-    ownEnds[item] = static_cast<std::uint32_t>(written - run.get()) + (begin - copied);
+    ownEnds[item] = static_cast<std::uint32_t>(written - run) + (begin - copied);
   }
   std::copy(units_ + copied, units_ + begin, written);
-  takeRun(std::move(run), total);
 }
 
 bool TextList::HasGaps(std::int32_t first, std::int32_t last) const noexcept {
@@ -81,10 +85,13 @@ bool TextList::FillGaps(const TextList& source, std::int32_t first, std::int32_t
   if (growth > 0) {
     const auto firstItem = static_cast<std::uint32_t>(first) - 1;
     const auto endItem = static_cast<std::uint32_t>(position) - 1;
-    makeFilledRun(growth, [&](std::uint32_t item) {
+    const std::size_t total = lengthWith(growth);
+    auto run = std::make_unique_for_overwrite<char16_t[]>(total);
+    writeFilled(run.get(), [&](std::uint32_t item) {
       return item >= firstItem && item < endItem ? source.Item(static_cast<std::int32_t>(item) + 1)
                                                  : TextView();
     });
+    takeRun(std::move(run), total);
   }
   if (fails) {
     throw Failure(FailureKind::InvalidIndex);
@@ -110,7 +117,20 @@ std::size_t TextList::OfferTexts(std::span<TextView> texts) const noexcept {
   return missing;
 }
 
-void TextList::FillGaps(std::span<const TextView> texts) {
+bool TextList::isFilledLike(const TextList& other, std::span<const TextView> texts) const noexcept {
+  if (count_ != other.count_) {
+    return false;
+  }
+  for (std::uint32_t item = 0; item < count_; ++item) {
+    const TextView own = units_ != nullptr ? text(item) : TextView();
+    if (!sameUnits(own.empty() && item < texts.size() ? texts[item] : own, other.text(item))) {
+      return false;
+    }
+  }
+  return true;
+}
+
+bool TextList::FillGaps(std::span<const TextView> texts, const TextList* like) {
   std::size_t growth = 0;
   const std::uint32_t* const ownEnds = units_ != nullptr ? ends() : nullptr;
   std::uint32_t begin = 0;
@@ -120,9 +140,19 @@ void TextList::FillGaps(std::span<const TextView> texts) {
     begin = end;
   }
   if (growth == 0) {
-    return;
+    return false;
   }
-  makeFilledRun(growth, [&](std::uint32_t item) { return item < texts.size() ? texts[item] : TextView(); });
+  if (like != nullptr && isFilledLike(*like, texts)) {
+    makeEnds();
+    std::copy(like->ends(), like->ends() + count_, ends());
+    takeRun(like->units_, like->image_);
+    return false;
+  }
+  ImageRef image;
+  auto* const run = static_cast<char16_t*>(image.makeRoom(lengthWith(growth) * sizeof(char16_t)));
+  writeFilled(run, [&](std::uint32_t item) { return item < texts.size() ? texts[item] : TextView(); });
+  takeRun(run, std::move(image));
+  return true;
 }
 
 }  // namespace kob

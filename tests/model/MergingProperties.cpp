@@ -77,6 +77,27 @@ RC_GTEST_PROP(MergingProperties, CompletingEqualsThePairwiseWalkInTextsAndFailur
   RC_ASSERT(failure == expected);
 }
 
+RC_GTEST_PROP(MergingProperties, CompletedEntriesChangeOneByOne, ()) {
+  ModelTestScope scope;
+  const std::vector<Growth> steps = *anySteps();
+  DamagedModels models(steps);
+  DamagedModels plain(steps);
+  Global_Util::setNbLangues(anyLanguageCount());
+  failureOf([&] { completePairwise(plain.own); });
+  failureOf([&] { models.own.CompleteIdentiques(); });
+  const int changes = *below(6);
+  for (int i = 0; i < changes; ++i) {
+    const int at = *below(64);
+    const int langue = *rc::gen::inRange(1, 8);
+    const Text text = DamagedModels::text(*below(10));
+    const auto change = [&](const DamagedModels& changed) {
+      return failureOf([&] { changed.entryAt(at)->ChangeTraduction(text, langue); });
+    };
+    RC_ASSERT(change(models) == change(plain));
+  }
+  RC_ASSERT(models.everything() == plain.everything());
+}
+
 RC_GTEST_PROP(MergingProperties, FillingEqualsTheLookUpOfEveryWholePath, ()) {
   ModelTestScope scope;
   const std::vector<Growth> steps = *anySteps();
