@@ -64,6 +64,10 @@ class CellWalk {
     if (cell.ColCell() == nullptr) {
       throw Failure(FailureKind::ObjectNotSet);
     }
+    if (ahead_ == Ahead::Cells && !open_.empty() && open_.back().fetched > 0) {
+      // By the time that the walk is through with this cell it reads those below the next one.
+      fetchFirstChildren((*open_.back().next).get());
+    }
     open_.push_back({&cell, cell.ColCell(), cell.ColCell()->begin(), 0});
     cell.isWalked_ = true;
   }

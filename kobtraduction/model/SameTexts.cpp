@@ -21,9 +21,21 @@ constexpr std::size_t digits = std::size_t{1} << digitBits;
 constexpr std::size_t entriesAhead = 24;
 constexpr std::size_t textsAhead = 12;
 
+/// The same for the members of the runs that are put in order.
+constexpr std::size_t runsAhead = 32;
+
 /// What the reference text and all texts of an entry need, in bytes.
 constexpr std::size_t usualReference = 64;
 constexpr std::size_t usualTexts = 320;
+/// What an allocator keeps of a run just before it, and reads when the run is given back, in bytes.
+constexpr std::size_t allocatorsPart = 16;
+
+/// All texts of an entry that may be given another run.
+void fetchRun(const KOBTraductionObj& entry) noexcept {
+  if (const char16_t* const units = entry.textUnits()) {
+    fetchBytes(reinterpret_cast<const char*>(units) - allocatorsPart, usualTexts);
+  }
+}
 
 /// Of one hash, nearly all are spelled alike.
 bool isSameText(TextView a, TextView b) noexcept {
@@ -137,7 +149,11 @@ void SameTexts::orderRunsWithGaps() {
     }
   }
   ordered_.reserve(count);
-  for (const std::uint32_t start : start_) {
+  for (std::uint32_t number = 0; number < count; ++number) {
+    const std::uint32_t start = start_[number];
+    if (count - number > runsAhead) {
+      fetchBytes(members_.data() + start_[number + runsAhead], sizeof(Member));
+    }
     for (std::uint32_t i = start; i < count && members_[i].hash == members_[start].hash; ++i) {
       ordered_.push_back(entries_[members_[i].number]);
     }
@@ -174,7 +190,7 @@ void SameTexts::fetchBehind(std::size_t end) noexcept {
   }
   for (const std::size_t last = std::min(end + textsAhead, ordered_.size()); fetchedTexts_ < last;
        ++fetchedTexts_) {
-    fetchBytes(ordered_[fetchedTexts_]->textUnits(), usualTexts);
+    fetchRun(*ordered_[fetchedTexts_]);
   }
 }
 
