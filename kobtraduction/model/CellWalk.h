@@ -53,6 +53,7 @@ class CellWalk {
     KOBCellTraduction* cell;
     std::shared_ptr<CellList> children;
     CellList::const_iterator next;
+    CellList::const_iterator end;
     /// How many children are fetched and not walked yet.
     int fetched = 0;
   };
@@ -68,12 +69,12 @@ class CellWalk {
       // By the time that the walk is through with this cell it reads those below the next one.
       fetchFirstChildren((*open_.back().next).get());
     }
-    open_.push_back({&cell, cell.ColCell(), cell.ColCell()->begin(), 0});
+    open_.push_back({&cell, cell.ColCell(), cell.ColCell()->begin(), cell.ColCell()->end(), 0});
     cell.isWalked_ = true;
   }
 
   KOBCellTraduction* next() {
-    while (!open_.empty() && open_.back().next == open_.back().children->end()) {
+    while (!open_.empty() && open_.back().next == open_.back().end) {
       leave();
     }
     if (open_.empty()) {

@@ -19,8 +19,9 @@ inline constexpr int cellsFetchedTogether = 16;
 /// Fetches the cells of a list that come next into `cells`, and returns how many: 0 at the end. Internal.
 inline int fetchNext(CellList::const_iterator next, const CellList& list,
                      const KOBCellTraduction* (&cells)[cellsFetchedTogether]) noexcept {
+  const CellList::const_iterator end = list.end();
   int count = 0;
-  for (; count < cellsFetchedTogether && next != list.end(); ++next) {
+  for (; count < cellsFetchedTogether && next != end; ++next) {
     cells[count] = (*next).get();
     fetch(cells[count++]);
   }

@@ -48,14 +48,14 @@ bool TextList::HasGaps(std::int32_t first, std::int32_t last) const noexcept {
   if (units_ == nullptr) {
     return true;
   }
+  // Where gaps are is anybody's guess, the processor's too: looking at all texts takes less than stopping.
+  bool found = false;
   std::uint32_t begin = start(static_cast<std::uint32_t>(first) - 1);
   for (const std::uint32_t end : std::span(ends() + first - 1, ends() + last)) {
-    if (end == begin) {
-      return true;
-    }
+    found |= end == begin;
     begin = end;
   }
-  return false;
+  return found;
 }
 
 bool TextList::FillGaps(const TextList& source, std::int32_t first, std::int32_t last) {
