@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include "MergeModels.h"
 #include "PathTable.h"
+#include "SavedForms.h"
 #include "Suite.h"
 
 #include <kobpersistence/KOBPersistence.h>
@@ -20,22 +21,37 @@ namespace {
 
 using Version = MergeModels::Version;
 
-/// A model that is new in each pass, made and released untimed.
+/// How a model came into being: a host made it cell by cell, or it was loaded.
+enum class Origin { Made, Loaded };
+
+/// A model that is new in each pass, made or loaded and released untimed.
 class FreshModel {
  public:
-  FreshModel(const MergeModels& models, Version version) : models_(models), version_(version) {}
+  FreshModel(const MergeModels& models, Version version, Origin origin = Origin::Made)
+      : models_(models), version_(version), origin_(origin) {
+    if (origin == Origin::Loaded) {
+      kob::usePersistence();
+      if (!models.model(version)->Save(file().toStdU16String())) {
+        throw std::runtime_error("the model cannot be saved");
+      }
+    }
+  }
 
   void renew() {
     model_.reset();
-    model_ = models_.model(version_);
+    model_ = origin_ == Origin::Made ? models_.model(version_) : loadModel(file());
   }
   void release() { model_.reset(); }
   kob::KOBModeleTraduction& operator*() const { return *model_; }
   kob::KOBModeleTraduction* operator->() const { return model_.get(); }
 
  private:
+  QString file() const { return folder_.filePath(QStringLiteral("fresh.trad")); }
+
   const MergeModels& models_;
   Version version_;
+  Origin origin_;
+  QTemporaryDir folder_;
   std::unique_ptr<kob::KOBModeleTraduction> model_;
 };
 
@@ -118,14 +134,25 @@ void contestPaths(int entries, double must, const std::function<void(Contest&)>&
 
 void contestCompleting(int entries, const std::function<void(Contest&)>& run) {
   const MergeModels models(entries);
-  FreshModel own(models, Version::Own);
+  FreshModel loaded(models, Version::Own, Origin::Loaded);
+  FreshModel made(models, Version::Own);
   const std::vector<kob::Text> references = referencesOf(models);
   Contest contest("Complete identical texts", std::to_string(entries));
-  contest.add(
-      "CompleteIdentiques", entries, [&](int) { own->CompleteIdentiques(); }, [&](int) { own.renew(); });
+  const auto add = [&](const char* name, FreshModel& model) {
+    contest.add(
+        name, entries, [&model](int) { model->CompleteIdentiques(); },
+        [&](int) {
+          loaded.release();
+          made.release();
+          model.renew();
+        });
+  };
+  add("Complete, loaded before", loaded);
+  add("Complete, just made", made);
   contest.add("hash each text once", entries, [&](int) { hashAll(references); });
   contest.add("the same by hashUpper", entries, [&](int) { hashAllInPlace(references); });
-  contest.expect({"CompleteIdentiques", "hash each text once", 5.0, 4.0});
+  contest.expect({"Complete, loaded before", "hash each text once", 5.0, 4.0});
+  contest.expect({"Complete, just made", "hash each text once", 5.0, 4.0});
   run(contest);
 }
 
