@@ -74,6 +74,17 @@ void RecordWriter::endRecord(Byte classNumber) {
   start_ = start;
 }
 
+template <class Write>
+void RecordWriter::guarded(Write write) {
+  try {
+    write();
+  } catch (...) {
+    if (failure_ == nullptr) {
+      failure_ = std::current_exception();
+    }
+  }
+}
+
 void RecordWriter::WriteValue(const PersistValue& value) {
   // What records are full of takes the short way, which cannot fail.
   if (value.type() == PersistType::String) {
@@ -85,7 +96,7 @@ void RecordWriter::WriteValue(const PersistValue& value) {
     ++*ones_;
     return;
   }
-  writeGuarded(value);
+  guarded([&] { writeAny(value); });
 }
 
 void RecordWriter::WriteStrings(std::span<const TextView> texts) {
@@ -200,18 +211,12 @@ void RecordWriter::WriteOnes(std::int32_t count) {
 }
 
 void RecordWriter::WriteKept(const KeptObject& object) {
-  // It outlives the save, so nobody needs to hold it.
-  WriteValue(PersistValue::object(PersistRef(PersistRef(), object.get())));
-}
-
-void RecordWriter::writeGuarded(const PersistValue& value) {
-  try {
-    writeAny(value);
-  } catch (...) {
-    if (failure_ == nullptr) {
-      failure_ = std::current_exception();
-    }
-  }
+  guarded([&] {
+    reserve(longestValue);
+    ones_ = nullptr;
+    // It outlives the save, so nobody needs to hold it.
+    writeObject(PersistRef(PersistRef(), object.get()));
+  });
 }
 
 void RecordWriter::writeAny(const PersistValue& value) {

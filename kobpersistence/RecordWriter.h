@@ -60,7 +60,8 @@ class RecordWriter final : public PersistStream {
   }
   void grow(std::size_t size);
   /// What goes wrong is kept for write().
-  void writeGuarded(const PersistValue& value);
+  template <class Write>
+  void guarded(Write write);
   void writeAny(const PersistValue& value);
   void writeText(TextView text);
   /// Writes a short text of units below 256, without a failure; false, and nothing is written, for another

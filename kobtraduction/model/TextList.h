@@ -37,6 +37,10 @@ class KOB_EXPORT TextList {
     return units_ != nullptr ? TextView(units_ + start(item), end(item) - start(item)) : TextView();
   }
 
+  /// The texts from position `first`, at least 1, on, as many as there is room for; "" for one that the list
+  /// lacks. The views live until the list is changed.
+  void GetViews(std::int32_t first, std::span<TextView> to) const noexcept;
+
   // A text that is passed in may be a view of one of the list's own.
 
   void Add(TextView text);

@@ -27,7 +27,7 @@ constexpr std::int32_t cellVersion = 2;
 /// A caption and a tool tip. The count that a record tells is not trusted before its entries are there.
 constexpr std::int32_t usualEntries = 2;
 /// Texts of an entry that are written at once; few models have more languages.
-constexpr std::size_t textsTogether = 16;
+constexpr std::int32_t textsTogether = 8;
 /// Twice as many is a number too.
 constexpr std::int32_t mostLanguagesAtOnce = 1 << 20;
 /// So many texts of an entry are read in one go.
@@ -308,23 +308,22 @@ std::shared_ptr<ProgIdTable> KOBTraductionObj::getProgIdTable() {
 void KOBTraductionObj::write(PersistStream& stream) {
   guarded([&] {
     stream.setVersion(entryVersion);
-    TextView views[textsTogether] = {nom()};
-    std::size_t count = 1;
-    const auto writeTexts = [&] { stream.WriteStrings(std::span(views, std::exchange(count, 0))); };
     const std::int32_t last = Global_Util::NbLangues();
     const TextList* const list = colTraduction_.get();
-    if (list == nullptr) {
-      writeTexts();
-    }
-    for (std::int32_t language = 1; language <= last; ++language) {
-      if (count == textsTogether) {
-        writeTexts();
-      }
+    TextView views[textsTogether] = {nom()};
+    std::int32_t count = 1;
+    for (std::int32_t language = 1; list != nullptr && language <= last; count = 0) {
       // Padded to the language count, and never cut short of it; what lies beyond is dropped.
-      const TextList& own = mustBeSet(list);
-      views[count++] = language <= own.Count() ? own.Item(language) : TextView();
+      const std::int32_t texts = std::min(last - language + 1, textsTogether - count);
+      list->GetViews(language, std::span(views + count, static_cast<std::size_t>(texts)));
+      stream.WriteStrings(std::span(views, static_cast<std::size_t>(count + texts)));
+      language += texts;
     }
-    writeTexts();
+    // The name alone, when nothing followed it.
+    stream.WriteStrings(std::span(views, static_cast<std::size_t>(count)));
+    if (last > 0) {
+      mustBeSet(list);
+    }
   });
 }
 

@@ -2,6 +2,7 @@
 #include "ModelVocabulary.h"
 
 #include <limits>
+#include <vector>
 
 namespace kob::test {
 namespace {
@@ -90,6 +91,26 @@ TEST(TextListOf, ViewsAddedTogetherAreThoseAddedOneByOne) {
       EXPECT_EQ(together.Count(), static_cast<std::int32_t>(before.size() + run.size()));
       together.Add(u"more");
       EXPECT_EQ(together.Item(together.Count()), u"more");
+    }
+  }
+}
+
+TEST(TextListOf, GivesViewsOfSeveralTextsAtOnce) {
+  TextList none;
+  TextList empty(3);
+  const auto few = textList({u"a", u"", u"ccc", u"dd"});
+  const auto many = textList({u"1", u"22", u"", u"4", u"5", u"66", u"7", u"8", u"999"});
+  for (const TextList* const list : {&none, &empty, few.get(), many.get()}) {
+    for (std::int32_t first = 1; first <= 12; ++first) {
+      for (std::size_t wanted = 0; wanted <= 12; ++wanted) {
+        std::vector<TextView> views(wanted, u"something before");
+        list->GetViews(first, views);
+        for (std::size_t i = 0; i < wanted; ++i) {
+          const std::int32_t position = first + static_cast<std::int32_t>(i);
+          EXPECT_EQ(views[i], position <= list->Count() ? list->Item(position) : TextView())
+              << first << ", " << i << " of " << wanted;
+        }
+      }
     }
   }
 }
