@@ -94,7 +94,7 @@ class CellWalk {
 
   int fetchAhead(const Level& level) const noexcept {
     return ahead_ == Ahead::Cells ? fetchNodes(level.next, *level.children)
-                                  : fetchCells(level.next, *level.children, sizeof(char16_t));
+                                  : fetchCells(level.next, *level.children);
   }
 
   void leave() noexcept {

@@ -63,10 +63,10 @@ int fetchCells(CellList::const_iterator next, const CellList& list, FetchTexts&&
   return count;
 }
 
-/// The same, and so many bytes of the texts. Internal.
-inline int fetchCells(CellList::const_iterator next, const CellList& list, std::size_t textBytes) noexcept {
+/// The same, and where the texts of these entries begin. Internal.
+inline int fetchCells(CellList::const_iterator next, const CellList& list) noexcept {
   return fetchCells(next, list,
-                    [textBytes](const KOBTraductionObj& entry) { fetchBytes(entry.textUnits(), textBytes); });
+                    [](const KOBTraductionObj& entry) { fetchBytes(entry.textUnits(), sizeof(char16_t)); });
 }
 
 /// The same, and of each node where its first children are. Internal.

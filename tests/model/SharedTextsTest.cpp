@@ -13,6 +13,12 @@ class SharedTexts : public ModelTest {
   static const char16_t* characters(const CellRef& cell) {
     return cell->Traduction()->ColTraduction()->Item(1).data();
   }
+  static void expectTogether(std::initializer_list<CellRef> cells, const Texts& expected) {
+    for (const CellRef& cell : cells) {
+      EXPECT_EQ(characters(cell), characters(*cells.begin()));
+      EXPECT_EQ(texts(cell), expected);
+    }
+  }
   static void change(const CellRef& cell, TextView text, std::int32_t langue) {
     cell->Traduction()->ChangeTraduction(text, langue);
   }
@@ -25,11 +31,7 @@ TEST_F(SharedTexts, AreThoseOfCompletedEntriesThatReadTheSame) {
   const CellRef second = add({u"a", u"", u""});
   const CellRef third = add({u"a", u"", u"3"});
   model.CompleteIdentiques();
-  EXPECT_EQ(characters(second), characters(first));
-  EXPECT_EQ(characters(third), characters(first));
-  for (const CellRef& cell : {first, second, third}) {
-    EXPECT_EQ(texts(cell), (Texts{u"a", u"2", u"3"}));
-  }
+  expectTogether({first, second, third}, {u"a", u"2", u"3"});
 }
 
 TEST_F(SharedTexts, AreFoundBehindAnEntryThatHadNoGap) {
@@ -37,9 +39,8 @@ TEST_F(SharedTexts, AreFoundBehindAnEntryThatHadNoGap) {
   const CellRef second = add({u"a", u"2", u""});
   const CellRef third = add({u"a", u"", u"3"});
   model.CompleteIdentiques();
-  EXPECT_EQ(characters(third), characters(second));
+  expectTogether({second, third}, {u"a", u"2", u"3"});
   EXPECT_NE(characters(whole), characters(second));
-  EXPECT_EQ(texts(third), (Texts{u"a", u"2", u"3"}));
 }
 
 TEST_F(SharedTexts, AreThoseOfEntriesWithoutATextToo) {
@@ -47,8 +48,7 @@ TEST_F(SharedTexts, AreThoseOfEntriesWithoutATextToo) {
   const CellRef second = add({u"", u"", u""});
   add({u"", u"2", u"3"});
   model.CompleteIdentiques();
-  EXPECT_EQ(characters(second), characters(first));
-  EXPECT_EQ(texts(second), (Texts{u"", u"2", u"3"}));
+  expectTogether({first, second}, {u"", u"2", u"3"});
 }
 
 TEST_F(SharedTexts, AreThoseOfManyLanguagesToo) {
@@ -57,10 +57,7 @@ TEST_F(SharedTexts, AreThoseOfManyLanguagesToo) {
   const CellRef second = add({u"a", u"", u"", u"", u"", u"", u"", u"8"});
   const CellRef third = add({u"a", u"", u"", u"", u"", u"", u"", u""});
   model.CompleteIdentiques();
-  for (const CellRef& cell : {first, second, third}) {
-    EXPECT_EQ(characters(cell), characters(first));
-    EXPECT_EQ(texts(cell), (Texts{u"a", u"2", u"3", u"4", u"5", u"6", u"7", u"8"}));
-  }
+  expectTogether({first, second, third}, {u"a", u"2", u"3", u"4", u"5", u"6", u"7", u"8"});
 }
 
 TEST_F(SharedTexts, AreNotThoseOfAReferenceInOtherLetters) {
@@ -86,8 +83,7 @@ TEST_F(SharedTexts, FollowTheTextsThatMostEntriesHave) {
   const CellRef third = add({u"a", u"2", u""});
   add({u"a", u"", u"3"});
   model.CompleteIdentiques();
-  EXPECT_EQ(characters(third), characters(second));
-  EXPECT_EQ(texts(third), (Texts{u"a", u"2", u"3"}));
+  expectTogether({second, third}, {u"a", u"2", u"3"});
 }
 
 TEST_F(SharedTexts, LeaveItemsBeyondTheLanguageCountAsTheyAre) {
