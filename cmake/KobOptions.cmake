@@ -33,6 +33,14 @@ if(KOB_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${KOB_CCACHE}")
 endif()
 
+# kob_optimise_whole(): for the targets of this directory and those below it. A call from one file of a library to
+# another, of which loading a model makes many, can be compiled into its caller then.
+macro(kob_optimise_whole)
+  if(KOB_LTO)
+    set(CMAKE_INTERPROCEDURAL_OPTIMIZATION ON)
+  endif()
+endmacro()
+
 # kob_precompile(TARGET header...): headers that most of its files include, compiled once. A file includes what it
 # needs all the same: the preset no-gui and the linter compile without.
 function(kob_precompile target)
