@@ -70,6 +70,7 @@ void CellList::Add(std::shared_ptr<KOBCellTraduction> cell) {
 
 void CellList::Add(std::shared_ptr<KOBCellTraduction> cell, std::int32_t before) {
   insert(locate(before), std::move(cell));
+  compared_ = std::min(compared_, static_cast<std::uint32_t>(before) - 1);
 }
 
 void CellList::Remove(std::int32_t position) {
@@ -84,6 +85,7 @@ void CellList::Remove(std::int32_t position) {
     chunks_.erase(chunks_.begin() + static_cast<std::ptrdiff_t>(place.chunk));
   }
   --count_;
+  compared_ -= static_cast<std::uint32_t>(position) <= compared_ ? 1 : 0;
   cursorChunk_ = 0;
   cursorFirst_ = 0;
   marked_.cells = nullptr;
@@ -121,12 +123,8 @@ void CellList::insert(Place place, std::shared_ptr<KOBCellTraduction> cell) {
   cursorFirst_ = 0;
   if (added == nullptr) {
     ++nothingCount_;
-    order_ = Order::Unknown;
     marked_.cells = nullptr;
     return;
-  }
-  if (order_ == Order::Sorted && !keepsOrder(place)) {
-    order_ = Order::Unknown;
   }
   markInserted(place);
   added->addHolder(*this);
@@ -202,8 +200,10 @@ KOBCellTraduction* CellList::walkTo(TextView name) const {
 }
 
 void CellList::insertSorted(std::shared_ptr<KOBCellTraduction> cell) {
-  const Place place = isSorted() ? upperBound(cell->nom()) : firstGreater(cell->nom());
+  const bool wasSorted = isSorted();
+  const Place place = wasSorted ? upperBound(cell->nom()) : firstGreater(cell->nom());
   insert(place, std::move(cell));
+  compared_ = wasSorted ? count_ : compared_;
 }
 
 CellList::Place CellList::upperBound(TextView name) const {
@@ -242,42 +242,21 @@ bool CellList::isSorted() const {
   if (nothingCount_ != 0) {
     return false;
   }
-  if (order_ == Order::Unknown) {
-    const KOBCellTraduction* previous = nullptr;
-    order_ = Order::Sorted;
-    for (const auto& cell : *this) {
-      if (previous != nullptr && lessUpper(cell->nom(), previous->nom())) {
-        order_ = Order::Unsorted;
-        break;
-      }
-      previous = cell.get();
-    }
+  const KOBCellTraduction* previous =
+      compared_ > 0 ? Item(static_cast<std::int32_t>(compared_)).get() : nullptr;
+  while (!isUnsorted_ && compared_ < count_) {
+    const KOBCellTraduction* const cell = Item(static_cast<std::int32_t>(compared_) + 1).get();
+    isUnsorted_ = previous != nullptr && lessUpper(cell->nom(), previous->nom());
+    compared_ += isUnsorted_ ? 0 : 1;
+    previous = cell;
   }
-  return order_ == Order::Sorted;
-}
-
-bool CellList::keepsOrder(Place place) const {
-  const Chunk& chunk = chunks_[place.chunk];
-  const KOBCellTraduction* before = nullptr;
-  if (place.offset > 0) {
-    before = chunk[place.offset - 1].get();
-  } else if (place.chunk > 0) {
-    before = chunks_[place.chunk - 1].back().get();
-  }
-  const KOBCellTraduction* after = nullptr;
-  if (place.offset + 1 < chunk.size()) {
-    after = chunk[place.offset + 1].get();
-  } else if (place.chunk + 1 < chunks_.size()) {
-    after = chunks_[place.chunk + 1].front().get();
-  }
-  const TextView name = chunk[place.offset]->nom();
-  return (before == nullptr || !lessUpper(name, before->nom())) &&
-         (after == nullptr || !lessUpper(after->nom(), name));
+  return !isUnsorted_;
 }
 
 void CellList::beforeRename(KOBCellTraduction& cell) noexcept {
   treeChanged();
-  order_ = Order::Unknown;
+  isUnsorted_ = false;
+  compared_ = 0;
   marked_.cells = nullptr;
   if (index_ != nullptr) {
     index_->remove(cell);

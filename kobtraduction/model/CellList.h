@@ -73,7 +73,6 @@ class KOB_EXPORT CellList {
     std::size_t chunk;
     std::size_t offset;
   };
-  enum class Order : std::uint8_t { Sorted, Unsorted, Unknown };
 
   Place locate(std::int32_t position) const;
   Place endPlace() const noexcept;
@@ -82,7 +81,6 @@ class KOB_EXPORT CellList {
   Place splitAt(Place place);
   KOBCellTraduction* walkTo(TextView name) const;
   bool isSorted() const;
-  bool keepsOrder(Place place) const;
   /// The place before the first greater name: by halving in a sorted list, by a walk in any other.
   Place upperBound(TextView name) const;
   Place firstGreater(TextView name) const;
@@ -103,7 +101,10 @@ class KOB_EXPORT CellList {
   /// constant.
   mutable std::uint32_t cursorChunk_ = 0;
   mutable std::uint32_t cursorFirst_ = 0;
-  mutable Order order_ = Order::Sorted;
+  /// So many cells at the front are in the order of their names, unless the list is known to be unsorted:
+  /// what is appended is not looked at before the order is asked for.
+  mutable std::uint32_t compared_ = 0;
+  mutable bool isUnsorted_ = false;
   /// Since the first look-up of a short list.
   mutable MarkedCells marked_;
 };

@@ -128,6 +128,23 @@ TEST_F(CellListOf, ANameIsFoundBehindManyOfTheSameUpperCase) {
   EXPECT_EQ(list.find(u"SAME"), list.Item(2).get());
 }
 
+TEST_F(CellListOf, WhatIsAppendedBehindARemovalCountsForTheOrder) {
+  list.insertSorted(named(u"a"));
+  list.insertSorted(named(u"c"));
+  list.Remove(1);
+  list.Add(named(u"b"));
+  list.insertSorted(named(u"bb"));
+  EXPECT_EQ(contents(), (Texts{u"bb", u"c", u"b"}));
+}
+
+TEST_F(CellListOf, WhatIsInsertedInFrontCountsForTheOrder) {
+  list.insertSorted(named(u"a"));
+  list.insertSorted(named(u"c"));
+  list.Add(named(u"z"), 1);
+  list.insertSorted(named(u"b"));
+  EXPECT_EQ(contents(), (Texts{u"b", u"z", u"a", u"c"}));
+}
+
 TEST_F(CellListOf, AnItemThatIsNothingFailsWhenTheWalkMeetsIt) {
   list.Add(named(u"a"));
   list.Add(nullptr);
