@@ -8,7 +8,7 @@ std::unique_ptr<void, FreeLarge> allocateLarge(std::size_t size) {
   const bool isLarge = pages.size != 0 && size >= pages.size;
   const FreeLarge free{std::align_val_t{isLarge ? pages.size : alignof(std::max_align_t)}};
   std::unique_ptr<void, FreeLarge> memory(::operator new(size, free.alignment), free);
-  if (isLarge) {
+  if (pages.expectUse != nullptr) {
     pages.expectUse(memory.get(), size);
   }
   return memory;

@@ -104,7 +104,7 @@ void ObjectPool::beginChunk() {
   const std::align_val_t alignment{isLarge ? pages_.size : anyAlignment};
   void* const memory = ::operator new(size, alignment);
   letGo();
-  if (isLarge) {
+  if (pages_.expectUse != nullptr) {
     pages_.expectUse(memory, size);
   }
   chunk_ = new (memory) Chunk(size, alignment);
