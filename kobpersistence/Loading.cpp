@@ -21,6 +21,18 @@ std::uint64_t mostItems(std::size_t fileSize) {
   return 8 * std::uint64_t(fileSize) + (1U << 20);
 }
 
+/// Has the units fetched that lie so far behind those from `from` to `end`. A record is read by its names
+/// alone, which lie too far apart for the processor to expect the next one.
+void fetchAhead(const char16_t* from, const char16_t* end) noexcept {
+  // Without this the compiler takes the function for one that does nothing, and leaves its call out.
+  asm volatile("" : : "r"(from));
+  constexpr std::size_t ahead = 1024;
+  constexpr std::size_t cacheLine = 64 / sizeof *from;
+  for (; from < end; from += std::min<std::size_t>(cacheLine, static_cast<std::size_t>(end - from))) {
+    __builtin_prefetch(from + ahead);
+  }
+}
+
 /// Serves the records. The first is begun first: it sets the language count, and asks for the object below it
 /// then. Only now are all others filled, from the last to the first, so that each finds its own objects
 /// filled and nothing ever waits on the stack for what lies deeper.
@@ -94,7 +106,9 @@ class Loading final : private FilledObjects {
       PersistRef object = record.make(pool_);
       reader.open(i, record, texts);
       object->read(reader);
-      texts = reader.close();
+      const char16_t* const ended = reader.close();
+      fetchAhead(texts, ended);
+      texts = ended;
       if (sharedLeft > 0 && shared[sharedLeft - 1] == i) {
         shared_[--sharedLeft] = object;
       }
