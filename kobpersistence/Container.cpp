@@ -124,6 +124,8 @@ void Container::findRecords(const Byte* from, TextView firstClass) {
       throw badRecord(i, offsetOf(start), u"it has no version");
     }
     offsets_.push_back(static_cast<std::uint32_t>(offsetOf(start)));
+    std::uint32_t units = 0;
+    repeatedUnits_ += findRepeated(from, recordEnd, units) != nullptr ? units : 0;
     from = recordEnd;
   }
   offsets_.push_back(static_cast<std::uint32_t>(offsetOf(from)));
@@ -137,8 +139,12 @@ void Container::checkRecords() {
   if (units > mostUnitsPerByte * content_.size) {
     throw badFile(at::units, u"the texts are longer than the file");
   }
-  texts_ = makeLarge<char16_t>(units + slack / sizeof(char16_t));
-  RecordCheck check(content_.bytes.get(), records(), texts_.get(), units);
+  if (units < repeatedUnits_) {
+    throw badFile(at::units, u"the texts are longer than the header says");
+  }
+  const std::uint64_t laidOut = units - repeatedUnits_;
+  texts_ = makeLarge<char16_t>(laidOut + slack / sizeof(char16_t));
+  RecordCheck check(content_.bytes.get(), records(), texts_.get(), laidOut);
   for (std::uint32_t i = records(); i-- > 0;) {
     const Record found = record(i);
     firstTexts_ = check.textsEnd();

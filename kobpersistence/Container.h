@@ -21,8 +21,7 @@ struct Record {
 };
 
 /// A file's content that was found to be right in everything that can be known without its objects, with all
-/// its texts as UTF-16 in one block: those of one record one behind the other, the records from the last to
-/// the first.
+/// its texts as UTF-16 in one block, as RecordCheck lays them out.
 class Container {
  public:
   /// Throws a PersistFailure for a content that is damaged, cut short, too new or of another kind.
@@ -77,6 +76,8 @@ class Container {
   std::vector<KnownClass> classes_;
   /// Where each record begins, and where the last one ends.
   std::vector<std::uint32_t> offsets_;
+  /// Of texts that are not laid out.
+  std::uint64_t repeatedUnits_ = 0;
   std::vector<std::uint32_t> shared_;
   std::shared_ptr<char16_t[]> texts_;
   const char16_t* firstTexts_ = nullptr;

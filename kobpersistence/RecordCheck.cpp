@@ -38,6 +38,8 @@ void RecordCheck::check(std::uint32_t record, const Byte* from, const Byte* end)
   record_ = record;
   lastUnits_ = 0;
   heights_[record] = 1;
+  std::uint32_t units = 0;
+  repeated_ = findRepeated(from, end, units);
   while (from != end) {
     from = takeShortTexts(from, end);
     while (end - from >= 2 && static_cast<Tag>(from[0]) == Tag::Long && from[1] < 0x80) {
@@ -92,7 +94,10 @@ inline const Byte* RecordCheck::checkValue(const Byte* from, const Byte* end) {
     case Tag::WideText:
       return takeText(from, end, 2);
     case Tag::SameText:
-      repeatText(tag);
+      if (tag != repeated_) {
+        repeatText(tag);
+      }
+      lastUnits_ = 0;
       return from;
     case Tag::EmptyText:
       lastUnits_ = 0;
@@ -162,7 +167,6 @@ void RecordCheck::repeatText(const Byte* at) {
   }
   checkRoom(lastUnits_, at);
   to_ = std::copy(to_ - lastUnits_, to_, to_);
-  lastUnits_ = 0;
 }
 
 void RecordCheck::takeNextObject(const Byte* at) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <kobpersistence/Bytes.h>
+#include <kobpersistence/Format.h>
 #include <kobtraduction/base/Text.h>
 
 #include <cstdint>
@@ -20,7 +21,23 @@ inline bool takeVarint(const Byte*& from, const Byte* end, std::uint32_t& number
   return takeLongVarint(from, end, number);
 }
 
-/// Looks at the values of all records, from the last to the first, and lays their texts out as UTF-16.
+/// Where a record's second value is when it repeats the first one, a text of so many units, as an alias
+/// repeats the name that it is; null when it does not, and perhaps for values that are wrong.
+inline const Byte* findRepeated(const Byte* values, const Byte* end, std::uint32_t& units) noexcept {
+  if (values == end ||
+      (static_cast<Tag>(*values) != Tag::NarrowText && static_cast<Tag>(*values) != Tag::WideText)) {
+    return nullptr;
+  }
+  const std::uint64_t bytesPerUnit = static_cast<Tag>(*values++) == Tag::NarrowText ? 1 : 2;
+  if (!takeVarint(values, end, units) || bytesPerUnit * units >= static_cast<std::uint64_t>(end - values)) {
+    return nullptr;
+  }
+  values += bytesPerUnit * units;
+  return static_cast<Tag>(*values) == Tag::SameText ? values : nullptr;
+}
+
+/// Looks at the values of all records, from the last to the first, and lays their texts out as UTF-16: one
+/// behind the other, but a second value that repeats the first one lies where that lies.
 /// What is wrong is thrown as a PersistFailure.
 class RecordCheck {
  public:
@@ -53,6 +70,8 @@ class RecordCheck {
   std::uint32_t record_ = 0;
   /// The units of the record's last text, when it may be repeated; it lies where the texts have come to.
   std::size_t lastUnits_ = 0;
+  /// The second value, when it repeats the first one.
+  const Byte* repeated_ = nullptr;
   /// For each record, how many levels it has with those below it.
   std::vector<std::uint16_t> heights_;
   /// The records whose objects wait for the record that names them.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #include <kobpersistence/Describing.h>
 #include <kobpersistence/Format.h>
+#include <kobpersistence/RecordCheck.h>
 #include <kobpersistence/RecordReader.h>
 
 #include <algorithm>
@@ -19,6 +20,8 @@ void RecordReader::open(std::uint32_t number, const Record& record, const char16
   version_ = record.version;
   from_ = record.values;
   end_ = record.end;
+  std::uint32_t units = 0;
+  repeated_ = findRepeated(from_, end_, units);
   texts_ = texts;
   ones_ = 0;
 }
@@ -56,6 +59,7 @@ inline bool RecordReader::readText(TextView& text) noexcept {
       return true;
     }
     case Tag::SameText:
+      texts_ -= from_ == repeated_ ? lastUnits_ : 0;
       ++from_;
       text = takeText(lastUnits_);
       return true;
@@ -81,7 +85,10 @@ std::size_t RecordReader::readNarrow(std::span<TextView> to) noexcept {
       ++from;
       units = loadVarint(from);
       from += units;
-    } else if (tag == Tag::EmptyText || tag == Tag::SameText) {
+    } else if (tag == Tag::SameText) {
+      texts -= from == repeated_ ? units : 0;
+      ++from;
+    } else if (tag == Tag::EmptyText) {
       ++from;
     } else {
       break;

@@ -50,6 +50,8 @@ class RecordReader final : public PersistStream {
   ImageRef image_;
   const Byte* from_ = nullptr;
   const Byte* end_ = nullptr;
+  /// The second value, when it repeats the first one.
+  const Byte* repeated_ = nullptr;
   const char16_t* texts_ = nullptr;
   std::size_t lastUnits_ = 0;
   /// Small integers 1 that a run still stands for.

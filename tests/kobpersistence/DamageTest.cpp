@@ -217,6 +217,28 @@ TEST_F(WrongRecordTest, MoreRepeatedUnitsThanTheHeaderSays) {
               HasSubstr("the texts are longer than the header says"));
 }
 
+TEST_F(WrongRecordTest, MoreUnitsInAnAliasThanTheHeaderSays) {
+  EXPECT_THAT(withValues(letters("abc") + FileBytes{0x28}, 2),
+              HasSubstr("the texts are longer than the header says"));
+}
+
+TEST_F(WrongRecordTest, MoreUnitsInALaterRepetitionThanTheHeaderSays) {
+  EXPECT_THAT(withValues(FileBytes{0x38} + letters("abc") + FileBytes{0x28}, 5),
+              HasSubstr("the texts are longer than the header says"));
+}
+
+TEST_F(WrongRecordTest, ARepetitionBehindAnEmptyTextOfTheWrongForm) {
+  EXPECT_THAT(withValues({0x18, 0x00, 0x28}, 0), HasSubstr("the length of a text is wrong"));
+}
+
+TEST_F(WrongRecordTest, ALengthThatReadsLikeARepetitionBehindTheOnlyTextOfARecord) {
+  const FileBytes fortyBytes = record(1, 2, FileBytes(38, no.front()));
+  ASSERT_EQ(fortyBytes.front(), 0x28);
+  EXPECT_THAT(
+      refused(TestFile{.records = {modelRecord(6), record(1, 2, letters("abc")), fortyBytes}, .units = 3}),
+      HasSubstr("some of its records are named by no other"));
+}
+
 TEST_F(WrongRecordTest, FewerUnitsThanTheHeaderSays) {
   EXPECT_THAT(withValues(letters("abc"), 4), HasSubstr("the texts are shorter than the header says"));
 }

@@ -3,6 +3,7 @@
 
 #include <kobtraduction/persistence/FileManager.h>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <span>
@@ -84,6 +85,42 @@ TEST_F(ReadingRunsTest, NoMoreTextsThanThereIsRoomFor) {
                   EXPECT_EQ(stream.ReadValue().text(), u"b");
                   EXPECT_EQ(strings(stream, 2), (Texts{u"é", u"c"}));
                   EXPECT_EQ(strings(stream, 2), Texts());
+                });
+}
+
+TEST_F(ReadingRunsTest, ASecondTextThatRepeatsTheFirstIsInOnePlaceWithIt) {
+  for (const Text& first : {Text(u"name"), Text(u"œuvre"), Text(200, u'n'), Text(200, u'œ')}) {
+    const std::array<TextView, 4> texts = {first, first, u"behind", u"behind"};
+    const auto writing = [&](PersistStream& stream) { stream.WriteStrings(texts); };
+    const auto expectTexts = [&](std::span<const TextView> read) {
+      EXPECT_TRUE(std::equal(texts.begin(), texts.end(), read.begin(), read.end()));
+      EXPECT_EQ(read[1].data(), read[0].data());
+      EXPECT_EQ(read[2].data(), read[1].data() + read[1].size());
+      EXPECT_EQ(read[3].data(), read[2].data() + read[2].size());
+    };
+    expectReading(writing, [&](PersistStream& stream) {
+      std::array<TextView, 4> read;
+      EXPECT_EQ(stream.ReadStrings(read), 4);
+      expectTexts(read);
+    });
+    expectReading(writing, [&](PersistStream& stream) {
+      std::array<TextView, 4> read;
+      for (TextView& text : read) {
+        text = stream.ReadValue().text();
+      }
+      expectTexts(read);
+    });
+  }
+}
+
+TEST_F(ReadingRunsTest, ALaterTextThatRepeatsTheOneBeforeContinuesTheRun) {
+  const std::array<TextView, 3> texts = {u"", u"once", u"once"};
+  expectReading([&](PersistStream& stream) { stream.WriteStrings(texts); },
+                [&](PersistStream& stream) {
+                  std::array<TextView, 3> read;
+                  EXPECT_EQ(stream.ReadStrings(read), 3);
+                  EXPECT_EQ(read[2], u"once");
+                  EXPECT_EQ(read[2].data(), read[1].data() + read[1].size());
                 });
 }
 
