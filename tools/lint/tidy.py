@@ -28,7 +28,7 @@ BUILDS = [ROOT / "build" / name for name in ("release", "windows64")]
 STAMPS = ROOT / "build" / "tidy"
 AT_ONCE = 8
 # What the other compiler is told and clang has no word for.
-UNKNOWN_FLAGS = ("-Winvalid-pch", "-fno-keep-inline-dllexport")
+UNKNOWN_FLAGS = ("-Winvalid-pch", "-fno-keep-inline-dllexport", "-flto=auto", "-fno-fat-lto-objects")
 # Of what only tests and measures, or is for another system, a sample takes one group in so many.
 SAMPLED = ("tests/", "bench/", "fuzz/")
 ONE_IN = 4
