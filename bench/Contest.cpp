@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <ctime>
+#include <numeric>
 #include <utility>
 
 namespace bench {
@@ -77,7 +78,10 @@ void Contest::addTimed(const std::string& name, std::function<double()> measure)
 
 double Contest::round() {
   double first = 0;
-  for (std::size_t i = 0; i < contenders_.size(); ++i) {
+  std::vector<std::size_t> order(contenders_.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::shuffle(order.begin(), order.end(), orders_);
+  for (const std::size_t i : order) {
     const double seconds = turn(contenders_[i]);
     measured_.series[i].seconds.push_back(seconds / (contenders_[i].operations * passes_));
     if (i == 0) {

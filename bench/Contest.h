@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -48,7 +49,9 @@ double median(std::vector<double> values);
 /// slows both down.
 double pairedRatio(const Series& subject, const Series& reference);
 
-/// Several ways of doing the same work, timed in turn in one process: A B C, A B C, ...
+/// Several ways of doing the same work, timed in turn in one process: A B C, C A B, ... Each round has an
+/// order of its own, the same ones in every run: whoever comes right after a contender that gives much memory
+/// back, or that fills the caches, finds another machine than the others.
 class Contest {
  public:
   Contest(std::string what, std::string size);
@@ -87,6 +90,7 @@ class Contest {
 
   Measured measured_;
   std::vector<Contender> contenders_;
+  std::minstd_rand orders_;
   std::function<void()> settle_;
   Clock clock_ = Clock::Thread;
   int passes_ = 1;
