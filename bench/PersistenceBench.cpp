@@ -13,6 +13,7 @@
 
 #include <fcntl.h>
 #include <malloc.h>
+#include <sys/mman.h>
 #include <unistd.h>
 #include <pugixml.hpp>
 
@@ -20,6 +21,7 @@
 #include <functional>
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 namespace bench {
 
@@ -36,6 +38,34 @@ class UnflushedCalls final : public kob::persistence::PosixCalls {
  public:
   int fsync(int /*file*/) override { return 0; }
   void beginSync(int /*file*/, off_t /*offset*/, std::size_t /*size*/) override {}
+};
+
+/// Memory as a program gets it for a large array: new pages of the usual size. Those of the heap may have
+/// been asked for as large ones by a load before, and would come faster.
+class NewPages {
+ public:
+  NewPages() = default;
+  explicit NewPages(std::size_t size)
+      : memory_(mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0)),
+        size_(size) {
+    require(memory_ != MAP_FAILED, "there is not enough memory");
+  }
+  NewPages(const NewPages&) = delete;
+  NewPages& operator=(NewPages&& other) noexcept {
+    std::swap(memory_, other.memory_);
+    std::swap(size_, other.size_);
+    return *this;
+  }
+  ~NewPages() {
+    if (size_ > 0) {
+      munmap(memory_, size_);
+    }
+  }
+  void* get() const noexcept { return memory_; }
+
+ private:
+  void* memory_ = nullptr;
+  std::size_t size_ = 0;
 };
 
 /// The same content in four files, and what is loaded from them.
@@ -81,8 +111,8 @@ class Files {
   /// One read into memory, and one copy of it.
   void readFlat() {
     const auto size = static_cast<std::size_t>(flat_.size());
-    read1_ = std::make_unique_for_overwrite<char[]>(size);
-    read2_ = std::make_unique_for_overwrite<char[]>(size);
+    read1_ = NewPages(size);
+    read2_ = NewPages(size);
     const int file = ::open(path("flat").toUtf8().constData(), O_RDONLY | O_CLOEXEC);
     const ssize_t read = ::read(file, read1_.get(), size);
     ::close(file);
@@ -93,8 +123,8 @@ class Files {
     loaded_ = nullptr;
     loadedLists_ = {};
     loadedXml_ = nullptr;
-    read1_ = nullptr;
-    read2_ = nullptr;
+    read1_ = NewPages();
+    read2_ = NewPages();
     // A program loads at its start, with memory that the system has yet to give, and so does everybody here.
     // Whoever got a part back from somebody before would seem faster, by chance and by the size of the
     // pieces.
@@ -155,8 +185,8 @@ class Files {
   std::unique_ptr<kob::KOBModeleTraduction> loaded_;
   QList<QStringList> loadedLists_;
   std::unique_ptr<pugi::xml_document> loadedXml_;
-  std::unique_ptr<char[]> read1_;
-  std::unique_ptr<char[]> read2_;
+  NewPages read1_;
+  NewPages read2_;
   std::size_t read_ = 0;
 };
 
