@@ -24,7 +24,7 @@ class RecordReader final : public PersistStream {
  public:
   RecordReader(FilledObjects& objects, const Container& container);
 
-  /// Begins a record; its texts lie one behind the other from `texts` on.
+  /// Begins a record; its texts lie from `texts` on, as RecordCheck lays them out.
   void open(std::uint32_t number, const Record& record, const char16_t* texts) noexcept;
   /// Passes over the values that the object did not ask for, and tells where their texts end.
   const char16_t* close();

@@ -16,11 +16,11 @@ class KOBCellTraduction;
 class NameIndex;
 
 /// A cell's children: an ordered list numbered from 1 like OrderedList, that also finds a child by name in
-/// constant time and inserts by name in logarithmic time. Both answers are those of a walk from the first
-/// item, whatever a host does to the list or to the names of the cells in it: the cells tell the lists that
-/// hold them when they are renamed. An item may be nothing (a host can add it); a walk that meets it fails
-/// with ObjectNotSet. A position outside 1..count fails with InvalidIndex and changes nothing. Used on one
-/// thread.
+/// constant time and inserts by name in logarithmic time (the first time behind what was put anywhere else,
+/// in linear time). Both answers are those of a walk from the first item, whatever a host does to the list or
+/// to the names of the cells in it: the cells tell the lists that hold them when they are renamed. An item
+/// may be nothing (a host can add it); a walk that meets it fails with ObjectNotSet. A position
+/// outside 1..count fails with InvalidIndex and changes nothing. Used on one thread.
 class KOB_EXPORT CellList {
  public:
   class const_iterator;
