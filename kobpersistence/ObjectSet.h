@@ -14,8 +14,8 @@ class ObjectSet {
  public:
   ObjectSet();
 
-  /// Whether the object was not met before. Now and then an object that was not is taken for one that was:
-  /// one that lies within the same 16 bytes, or at the address of one that is gone.
+  /// Whether the object was not met before. One that was not is taken for one that was when it lies within
+  /// the same 16 bytes.
   bool add(const void* object);
 
  private:

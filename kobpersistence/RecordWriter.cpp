@@ -14,8 +14,12 @@ namespace {
 /// Before the values: length, class and version, which are known when the values are.
 constexpr std::size_t mostHead = longestVarint + 1 + longestVarint;
 constexpr std::int32_t longestText = std::numeric_limits<std::int32_t>::max();
-/// Units of several texts that are looked at together: few, as one of them may turn out to be wide.
-constexpr std::size_t longestRun = 512;
+/// Units of a run that are narrowed together: few, as they go through a buffer.
+constexpr std::size_t longestRun = 1024;
+/// What may stand before the units of each of its texts: the tag and the length.
+constexpr std::size_t mostBeforeUnits = 1 + 2;
+/// Bytes of a text that are copied at once, which is most texts.
+constexpr std::size_t copiedBlock = 64;
 /// The longest value, without the units of a text.
 constexpr std::size_t longestValue = 1 + sizeof(double);
 
@@ -38,6 +42,7 @@ void RecordWriter::grow(std::size_t size) {
   auto larger = std::make_unique_for_overwrite<Byte[]>(capacity);
   std::copy(buffer_.get(), to_, larger.get());
   ones_ = ones_ == nullptr ? nullptr : larger.get() + (ones_ - buffer_.get());
+  last_.begin = last_.size == 0 ? nullptr : larger.get() + (last_.begin - buffer_.get());
   buffer_ = std::move(larger);
   capacity_ = capacity;
   to_ = buffer_.get() + used;
@@ -47,7 +52,7 @@ void RecordWriter::grow(std::size_t size) {
 void RecordWriter::write(IKOBVBPersistStream& object, Byte classNumber) {
   to_ = buffer_.get() + mostHead;
   ones_ = nullptr;
-  lastTextSize_ = 0;
+  last_ = {};
   units_ = 0;
   version_ = 0;
   object.write(*this);
@@ -95,76 +100,83 @@ void RecordWriter::WriteValue(const PersistValue& value) {
              *ones_ < mostOnes) {
     ++*ones_;
     return;
+  } else if (value.type() == PersistType::Boolean && hasRoom(1)) {
+    to_ = storeTag(to_, value.integer() != 0 ? Tag::True : Tag::False);
+    ones_ = nullptr;
+    return;
   }
   guarded([&] { writeAny(value); });
 }
 
+inline Byte* RecordWriter::endText(Byte* begin, Byte* end, Repeatable& last) noexcept {
+  const auto size = static_cast<std::size_t>(end - begin);
+  // Texts of one length mostly differ in their last unit, too.
+  const bool isPerhapsSame = size == last.size && end[-1] == last.begin[size - 1];
+  if (isPerhapsSame && std::equal(begin, end, last.begin)) {
+    last.size = 0;
+    return storeTag(begin, Tag::SameText);
+  }
+  last = {begin, size};
+  return end;
+}
+
 void RecordWriter::WriteStrings(std::span<const TextView> texts) {
-  while (!texts.empty()) {
-    std::size_t written = writeRun(texts);
-    if (written == 0) {
-      if (!writeShort(texts.front())) {
-        WriteValue(PersistValue::string(texts.front()));
-      }
-      written = 1;
-    }
-    const TextView last = texts[written - 1];
-    texts = texts.subspan(written);
+  TextView last;
+  for (const TextView text : texts) {
     // A cell's name mostly is its alias, too: the very same units, which need not be looked at again.
-    if (!texts.empty() && texts.front().data() == last.data() && texts.front().size() == last.size() &&
-        lastTextSize_ > 0 && hasRoom(1)) {
+    const bool isSame = !text.empty() && text.data() == last.data() && text.size() == last.size();
+    if (isSame && last_.size > 0 && hasRoom(1)) {
       to_ = storeTag(to_, Tag::SameText);
-      lastTextSize_ = 0;
-      units_ += last.size();
-      texts = texts.subspan(1);
+      last_.size = 0;
+      units_ += text.size();
+    } else if (!writeShort(text)) {
+      WriteValue(PersistValue::string(text));
     }
+    last = text;
   }
 }
 
-std::size_t RecordWriter::writeRun(std::span<const TextView> texts) noexcept {
-  // The run ends at a text that lies elsewhere; an empty one lies anywhere.
-  const char16_t* from = nullptr;
-  std::size_t units = 0;
-  std::size_t count = 0;
-  for (; count < texts.size(); ++count) {
-    const TextView text = texts[count];
-    if (text.empty()) {
-      continue;
-    }
-    from = units == 0 ? text.data() : from;
-    if (text.size() > longestShort || units + text.size() > longestRun || text.data() != from + units) {
-      break;
-    }
-    units += text.size();
+void RecordWriter::WriteRun(const TextRun& texts) {
+  if (texts.size() > 0 && !writeNarrow(texts)) {
+    PersistStream::WriteRun(texts);
   }
-  if (count < 2 || !hasRoom(units + 2 * count + narrowBlock)) {
-    return 0;
+}
+
+bool RecordWriter::writeNarrow(const TextRun& texts) noexcept {
+  const std::uint32_t units = texts.ends.back();
+  if (units > longestRun || !hasRoom(units + texts.size() * mostBeforeUnits + copiedBlock)) {
+    return false;
   }
-  const char16_t* const end = from + units;
+  Byte bytes[longestRun + copiedBlock];
+  if (!narrow(bytes, texts.units, units)) {
+    return false;
+  }
   // Kept apart from the writer's own, which a byte that is written might be for all that the compiler knows.
   Byte* to = to_;
-  std::size_t written = 0;
-  for (; written < count; ++written) {
-    const std::size_t size = texts[written].size();
+  Repeatable last = last_;
+  std::uint32_t begin = 0;
+  for (const std::uint32_t end : texts.ends) {
+    const std::uint32_t size = end - begin;
     if (size == 0) {
       to = storeTag(to, Tag::EmptyText);
-      lastTextSize_ = 0;
+      last.size = 0;
       continue;
     }
-    // A whole block takes the same time for most texts, and what it has too much is written over.
-    const bool isInBlock = size <= narrowBlock && static_cast<std::size_t>(end - from) >= narrowBlock;
-    if (!(isInBlock ? narrowWhole(to + 2, from) : narrow(to + 2, from, size))) {
-      break;
+    Byte* const text = storeVarint(storeTag(to, Tag::NarrowText), size);
+    // A whole block takes less than finding out how much of it is needed; what it has too much is written
+    // over.
+    std::memcpy(text, bytes + begin, copiedBlock);
+    if (size > copiedBlock) {
+      std::memcpy(text + copiedBlock, bytes + begin + copiedBlock, size - copiedBlock);
     }
-    to[0] = static_cast<Byte>(Tag::NarrowText);
-    to[1] = static_cast<Byte>(size);
-    to = endText(to, to + 2 + size);
-    from += size;
+    to = endText(to, text + size, last);
+    begin = end;
   }
-  units_ += units - static_cast<std::size_t>(end - from);
   to_ = to;
-  ones_ = written > 0 ? nullptr : ones_;
-  return written;
+  last_ = last;
+  ones_ = nullptr;
+  units_ += units;
+  return true;
 }
 
 bool RecordWriter::writeShort(TextView text) noexcept {
@@ -177,7 +189,7 @@ bool RecordWriter::writeShort(TextView text) noexcept {
   to_[1] = static_cast<Byte>(text.size());
   units_ += text.size();
   ones_ = nullptr;
-  to_ = endText(to_, to_ + 2 + text.size());
+  to_ = endText(to_, to_ + 2 + text.size(), last_);
   return true;
 }
 
@@ -214,8 +226,7 @@ void RecordWriter::WriteKept(const KeptObject& object) {
   guarded([&] {
     reserve(longestValue);
     ones_ = nullptr;
-    // It outlives the save, so nobody needs to hold it.
-    writeObject(PersistRef(PersistRef(), object.get()));
+    writeObject(object.get());
   });
 }
 
@@ -247,7 +258,10 @@ void RecordWriter::writeAny(const PersistValue& value) {
       to_ = storeTag(to_, value.integer() != 0 ? Tag::True : Tag::False);
       break;
     case PersistType::Object:
-      writeObject(value.object());
+      if (value.object() != nullptr) {
+        objects_.keep(value.object());
+      }
+      writeObject(value.object().get());
       break;
   }
 }
@@ -258,41 +272,28 @@ void RecordWriter::writeText(TextView text) {
   }
   if (text.empty()) {
     to_ = storeTag(to_, Tag::EmptyText);
-    lastTextSize_ = 0;
+    last_.size = 0;
     return;
   }
   reserve(longestValue + 2 * text.size());
   Byte* const units = storeVarint(to_ + 1, static_cast<std::uint32_t>(text.size()));
   if (narrow(units, text.data(), text.size())) {
     *to_ = static_cast<Byte>(Tag::NarrowText);
-    to_ = endText(to_, units + text.size());
+    to_ = endText(to_, units + text.size(), last_);
   } else {
     *to_ = static_cast<Byte>(Tag::WideText);
     storeUnits(units, text.data(), text.size());
-    to_ = endText(to_, units + 2 * text.size());
+    to_ = endText(to_, units + 2 * text.size(), last_);
   }
   units_ += text.size();
 }
 
-inline Byte* RecordWriter::endText(Byte* begin, Byte* end) noexcept {
-  const auto size = static_cast<std::size_t>(end - begin);
-  // Texts of one length mostly differ in their last unit, too.
-  const bool isPerhapsSame = size == lastTextSize_ && end[-1] == buffer_[lastText_ + size - 1];
-  if (isPerhapsSame && std::equal(begin, end, buffer_.get() + lastText_)) {
-    lastTextSize_ = 0;
-    return storeTag(begin, Tag::SameText);
-  }
-  lastText_ = static_cast<std::size_t>(begin - buffer_.get());
-  lastTextSize_ = size;
-  return end;
-}
-
-void RecordWriter::writeObject(const PersistRef& object) {
+void RecordWriter::writeObject(IKOBVBPersistStream* object) {
   if (object == nullptr) {
     to_ = storeTag(to_, Tag::Nothing);
     return;
   }
-  const ObjectForm form = objects_.name(object);
+  const ObjectForm form = objects_.name(*object);
   to_ = form.isNext ? storeTag(to_, Tag::NextObject)
                     : storeVarint(storeTag(to_, Tag::NumberedObject), form.number);
 }

@@ -23,7 +23,9 @@ struct ObjectForm {
 class NamedObjects {
  public:
   virtual ~NamedObjects() = default;
-  virtual ObjectForm name(const PersistRef& object) = 0;
+  virtual ObjectForm name(IKOBVBPersistStream& object) = 0;
+  /// Keeps an object until the save has ended that nobody else may keep so long. It is named next.
+  virtual void keep(const PersistRef& object) = 0;
 };
 
 /// The stream that an object writes its record to: a buffer, used for one record after the other.
@@ -45,12 +47,19 @@ class RecordWriter final : public PersistStream {
   void setVersion(std::int32_t version) override { version_ = version; }
   void WriteValue(const PersistValue& value) override;
   void WriteStrings(std::span<const TextView> texts) override;
+  void WriteRun(const TextRun& texts) override;
   void WriteLongs(std::span<const std::int32_t> numbers) override;
   void WriteOnes(std::int32_t count) override;
   void WriteKept(const KeptObject& object) override;
   const PersistValue& ReadValue() override;
 
  private:
+  /// The text written last when it may be repeated, and its size with tag and length; 0 for none.
+  struct Repeatable {
+    const Byte* begin = nullptr;
+    std::size_t size = 0;
+  };
+
   /// Whether there is room for so many bytes, and a block beyond them.
   bool hasRoom(std::size_t size) const noexcept { return static_cast<std::size_t>(limit_ - to_) >= size; }
   void reserve(std::size_t size) {
@@ -67,12 +76,14 @@ class RecordWriter final : public PersistStream {
   /// Writes a short text of units below 256, without a failure; false, and nothing is written, for another
   /// one.
   bool writeShort(TextView text) noexcept;
-  /// Writes short texts that lie one behind the other and have units below 256, without a failure; how many,
-  /// perhaps 0. One that would do may be left for writeShort().
-  std::size_t writeRun(std::span<const TextView> texts) noexcept;
-  /// Where a text ends that was put there: at once when it is the one before it once more.
-  Byte* endText(Byte* begin, Byte* end) noexcept;
-  void writeObject(const PersistRef& object);
+  /// Writes a run of units below 256, without a failure; false, and nothing is written, for another one, a
+  /// long one, and for want of room.
+  bool writeNarrow(const TextRun& texts) noexcept;
+  /// Where the record goes on behind a text that was put there: at once when it is the one before it once
+  /// more.
+  static Byte* endText(Byte* begin, Byte* end, Repeatable& last) noexcept;
+  /// Null is "nothing".
+  void writeObject(IKOBVBPersistStream* object);
   void endRecord(Byte classNumber);
 
   NamedObjects& objects_;
@@ -84,9 +95,7 @@ class RecordWriter final : public PersistStream {
   Byte* limit_;
   /// The number of ones behind the value written last, if that is a run of ones.
   Byte* ones_ = nullptr;
-  /// The text written last when it may be repeated, as an offset, and its size with tag and length.
-  std::size_t lastText_ = 0;
-  std::size_t lastTextSize_ = 0;
+  Repeatable last_;
   std::uint64_t units_ = 0;
   std::int32_t version_ = 0;
   std::exception_ptr failure_;

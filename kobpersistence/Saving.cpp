@@ -66,19 +66,15 @@ class ClassNumbers {
   std::vector<Met> met_;
 };
 
-PersistRef borrowed(IKOBVBPersistStream& object) {
-  return {PersistRef(), &object};
-}
-
 /// Writes a tree in one go, each object directly before the first that it names.
 class TreeSave final : private NamedObjects {
  public:
   /// Whether it is a tree; if not, nothing of use has been written. A tree may, rarely, be taken for none.
   bool save(ContainerWriter& file, ClassNumbers& classes, IKOBVBPersistStream& first) {
     RecordWriter writer(*this);
-    name(borrowed(first));
+    name(first);
     while (!pending_.empty() && isEachNew_) {
-      const Pending now = std::move(pending_.back());
+      const Pending now = pending_.back();
       pending_.pop_back();
       if (now.level > deepestNesting) {
         throw tooDeep();
@@ -95,17 +91,20 @@ class TreeSave final : private NamedObjects {
 
  private:
   struct Pending {
-    PersistRef object;
+    IKOBVBPersistStream* object;
     std::uint32_t level;
   };
 
-  ObjectForm name(const PersistRef& object) override {
-    isEachNew_ = met_.add(object.get()) && isEachNew_;
-    pending_.push_back({object, level_ + 1});
+  ObjectForm name(IKOBVBPersistStream& object) override {
+    isEachNew_ = met_.add(&object) && isEachNew_;
+    pending_.push_back({&object, level_ + 1});
     return {};
   }
+  void keep(const PersistRef& object) override { kept_.push_back(object); }
 
   ObjectSet met_;
+  /// So that no object is taken for another one that had its address before, either.
+  std::vector<PersistRef> kept_;
   bool isEachNew_ = true;
   /// Named and not written yet, the next one on top.
   std::vector<Pending> pending_;
@@ -118,7 +117,7 @@ class GraphSave final : private NamedObjects {
  public:
   void save(ContainerWriter& file, ClassNumbers& classes, IKOBVBPersistStream& first) {
     RecordWriter writer(*this);
-    indexOf(borrowed(first));
+    indexOf(first);
     for (std::size_t index = 0; index < objects_.size(); ++index) {
       IKOBVBPersistStream& object = *objects_[index];
       writer.write(object, classes.of(object));
@@ -143,7 +142,7 @@ class GraphSave final : private NamedObjects {
         {u"An object changed while it was being saved. Save again once nothing changes any more."});
   }
 
-  ObjectForm name(const PersistRef& object) override {
+  ObjectForm name(IKOBVBPersistStream& object) override {
     const std::uint32_t index = indexOf(object);
     if (!isOrdered_) {
       graph_.named.push_back(index);
@@ -155,17 +154,23 @@ class GraphSave final : private NamedObjects {
     return {order_.isNext[place_++], order_.records[index]};
   }
 
-  std::uint32_t indexOf(const PersistRef& object) {
-    const auto [found, isNew] =
-        indices_.try_emplace(object.get(), static_cast<std::uint32_t>(objects_.size()));
+  void keep(const PersistRef& object) override {
+    if (!isOrdered_) {
+      kept_.push_back(object);
+    }
+  }
+
+  std::uint32_t indexOf(IKOBVBPersistStream& object) {
+    const auto [found, isNew] = indices_.try_emplace(&object, static_cast<std::uint32_t>(objects_.size()));
     if (isNew) {
-      objects_.push_back(object);
+      objects_.push_back(&object);
     }
     return found->second;
   }
 
-  /// Kept alive, so that no object is taken for another one that had its address before.
-  std::vector<PersistRef> objects_;
+  std::vector<IKOBVBPersistStream*> objects_;
+  /// So that no object is taken for another one that had its address before, either.
+  std::vector<PersistRef> kept_;
   std::unordered_map<const IKOBVBPersistStream*, std::uint32_t> indices_;
   NamingGraph graph_;
   RecordOrder order_;

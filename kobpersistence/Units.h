@@ -107,15 +107,6 @@ inline bool isNarrow(const WideBlock& seen) noexcept {
   return (seen & upperBytes) == 0;
 }
 
-/// So many units to bytes; false when one of them does not fit. That takes no longer than eight.
-inline constexpr std::size_t narrowBlock = 32;
-inline bool narrowWhole(Byte* to, const char16_t* from) noexcept {
-  WideBlock seen = {};
-  narrowSixteen(to, from, seen);
-  narrowSixteen(to + 16, from + 16, seen);
-  return isNarrow(seen);
-}
-
 /// Units to and from their little-endian bytes, two a unit.
 inline void storeUnits(Byte* to, const char16_t* from, std::size_t count) noexcept {
   if constexpr (std::endian::native == std::endian::little) {

@@ -151,19 +151,9 @@ void TextList::takeRun(const char16_t* run, ImageRef image) noexcept {
   image_ = std::move(image);
 }
 
-void TextList::GetViews(std::int32_t first, std::span<TextView> to) const noexcept {
-  const auto from = static_cast<std::uint32_t>(first) - 1;
-  std::size_t got = 0;
-  if (units_ != nullptr && from < count_) {
-    const std::uint32_t* const ownEnds = ends();
-    std::uint32_t begin = start(from);
-    for (const std::size_t own = std::min<std::size_t>(to.size(), count_ - from); got < own; ++got) {
-      const std::uint32_t end = ownEnds[from + got];
-      to[got] = TextView(units_ + begin, end - begin);
-      begin = end;
-    }
-  }
-  std::fill(to.begin() + static_cast<std::ptrdiff_t>(got), to.end(), TextView());
+TextRun TextList::GetRun(std::int32_t most) const noexcept {
+  const std::size_t count = units_ != nullptr ? std::clamp<std::int64_t>(most, 0, count_) : 0;
+  return {units_, {ends(), count}};
 }
 
 void TextList::Add(TextView text) {

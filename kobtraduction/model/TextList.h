@@ -5,6 +5,7 @@
 #include <kobtraduction/base/Failure.h>
 #include <kobtraduction/base/ImageRef.h>
 #include <kobtraduction/base/Text.h>
+#include <kobtraduction/base/TextRun.h>
 
 #include <cstdint>
 #include <limits>
@@ -37,9 +38,9 @@ class KOB_EXPORT TextList {
     return units_ != nullptr ? TextView(units_ + start(item), end(item) - start(item)) : TextView();
   }
 
-  /// The texts from position `first`, at least 1, on, as many as there is room for; "" for one that the list
-  /// lacks. The views live until the list is changed.
-  void GetViews(std::int32_t first, std::span<TextView> to) const noexcept;
+  /// The list's first texts, `most` or as many as there are; none when all of the list's texts are "". They
+  /// live until the list is changed.
+  TextRun GetRun(std::int32_t most) const noexcept;
 
   // A text that is passed in may be a view of one of the list's own.
 

@@ -11,6 +11,12 @@ void PersistStream::WriteStrings(std::span<const TextView> texts) {
   }
 }
 
+void PersistStream::WriteRun(const TextRun& texts) {
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    WriteValue(PersistValue::string(texts[i]));
+  }
+}
+
 void PersistStream::WriteLongs(std::span<const std::int32_t> numbers) {
   for (const std::int32_t number : numbers) {
     WriteValue(PersistValue::ofLong(number));

@@ -5,6 +5,7 @@
 #include <kobtraduction/base/ImageRef.h>
 #include <kobtraduction/base/OrderedList.h>
 #include <kobtraduction/base/Text.h>
+#include <kobtraduction/base/TextRun.h>
 #include <kobtraduction/persistence/PersistValue.h>
 
 #include <cstdint>
@@ -53,6 +54,7 @@ class KOB_EXPORT PersistStream {
   // a shorter way for values of one type may take it: the record must be the same.
 
   virtual void WriteStrings(std::span<const TextView> texts);
+  virtual void WriteRun(const TextRun& texts);
   virtual void WriteLongs(std::span<const std::int32_t> numbers);
   /// So many small integers 1.
   virtual void WriteOnes(std::int32_t count);

@@ -26,8 +26,6 @@ constexpr std::int32_t cellVersion = 2;
 
 /// A caption and a tool tip. The count that a record tells is not trusted before its entries are there.
 constexpr std::int32_t usualEntries = 2;
-/// Texts of an entry that are written at once; few models have more languages.
-constexpr std::int32_t textsTogether = 8;
 /// Twice as many is a number too.
 constexpr std::int32_t mostLanguagesAtOnce = 1 << 20;
 /// So many texts of an entry are read in one go.
@@ -310,19 +308,17 @@ void KOBTraductionObj::write(PersistStream& stream) {
     stream.setVersion(entryVersion);
     const std::int32_t last = Global_Util::NbLangues();
     const TextList* const list = colTraduction_.get();
-    TextView views[textsTogether] = {nom()};
-    std::int32_t count = 1;
-    for (std::int32_t language = 1; list != nullptr && language <= last; count = 0) {
-      // Padded to the language count, and never cut short of it; what lies beyond is dropped.
-      const std::int32_t texts = std::min(last - language + 1, textsTogether - count);
-      list->GetViews(language, std::span(views + count, static_cast<std::size_t>(texts)));
-      stream.WriteStrings(std::span(views, static_cast<std::size_t>(count + texts)));
-      language += texts;
-    }
-    // The name alone, when nothing followed it.
-    stream.WriteStrings(std::span(views, static_cast<std::size_t>(count)));
+    const TextView name = nom();
+    stream.WriteStrings({&name, 1});
+    // Padded to the language count, and never cut short of it; what lies beyond is dropped.
+    const TextRun texts = list != nullptr ? list->GetRun(last) : TextRun();
+    stream.WriteRun(texts);
     if (last > 0) {
       mustBeSet(list);
+    }
+    const PersistValue empty = PersistValue::string({});
+    for (std::int32_t missing = last - static_cast<std::int32_t>(texts.size()); missing > 0; --missing) {
+      stream.WriteValue(empty);
     }
   });
 }

@@ -3,6 +3,7 @@
 
 #include <kobtraduction/persistence/FileManager.h>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <utility>
@@ -38,23 +39,47 @@ class RunsOfValuesTest : public ServiceTest {
     return bytesOf(path("values"));
   }
 
-  /// The lengths are those of texts that lie one behind the other in `units`.
+  /// The lengths are those of texts that lie one behind the other in `units`: a run, which may also be handed
+  /// over as one.
   void expectSameTexts(TextView units, std::initializer_list<std::size_t> lengths) {
     std::vector<TextView> texts;
+    std::vector<std::uint32_t> ends;
+    std::uint32_t end = 0;
     for (const std::size_t length : lengths) {
-      texts.push_back(units.substr(0, length));
-      units.remove_prefix(length);
+      texts.push_back(units.substr(end, length));
+      end += static_cast<std::uint32_t>(length);
+      ends.push_back(end);
     }
     expectSameTexts(texts);
+    // Nothing behind the run is there to be read.
+    const auto alone = std::make_unique<char16_t[]>(end);
+    std::copy_n(units.begin(), end, alone.get());
+    expectSame(texts, [&](PersistStream& stream) { stream.WriteRun({alone.get(), ends}); });
   }
 
   void expectSameTexts(const std::vector<TextView>& texts) {
-    EXPECT_EQ(saved([&](PersistStream& stream) { stream.WriteStrings(texts); }),
-              saved([&](PersistStream& stream) {
-                for (const TextView text : texts) {
-                  stream.WriteValue(PersistValue::string(text));
-                }
-              }));
+    expectSame(texts, [&](PersistStream& stream) { stream.WriteStrings(texts); });
+  }
+
+  /// Whatever was written before, a text or one that is to be repeated or a number, and whatever comes after.
+  void expectSame(const std::vector<TextView>& texts, const Writing& writing) {
+    const TextView first = texts.empty() ? TextView() : texts.front();
+    for (const PersistValue& before : {PersistValue::ofLong(5), PersistValue::smallInteger(1),
+                                       PersistValue::string(first), PersistValue::string(u"other")}) {
+      const auto between = [&](auto writeTexts) {
+        return saved([&](PersistStream& stream) {
+          stream.WriteValue(before);
+          writeTexts(stream);
+          stream.WriteValue(PersistValue::smallInteger(1));
+          stream.WriteValue(PersistValue::string(texts.empty() ? TextView() : texts.back()));
+        });
+      };
+      EXPECT_EQ(between(writing), between([&](PersistStream& stream) {
+                  for (const TextView text : texts) {
+                    stream.WriteValue(PersistValue::string(text));
+                  }
+                }));
+    }
   }
 };
 
@@ -74,6 +99,10 @@ TEST_F(RunsOfValuesTest, ShortTexts) {
 TEST_F(RunsOfValuesTest, EmptyTextsAmongOthers) {
   expectSameTexts(narrowUnits(200), {0, 0, 23, 0, 5, 0});
   expectSameTexts({}, {0, 0, 0});
+}
+
+TEST_F(RunsOfValuesTest, NoTexts) {
+  expectSameTexts({}, {});
 }
 
 TEST_F(RunsOfValuesTest, TextsOfTheLengthsAtWhichFormsChange) {
@@ -135,12 +164,22 @@ TEST_F(RunsOfValuesTest, MoreThanTheFirstBufferHolds) {
       }
     });
   };
-  EXPECT_EQ(many([&](PersistStream& stream) { stream.WriteStrings(texts); }),
-            many([&](PersistStream& stream) {
-              for (const TextView text : texts) {
-                stream.WriteValue(PersistValue::string(text));
-              }
-            }));
+  const FileBytes oneByOne = many([&](PersistStream& stream) {
+    for (const TextView text : texts) {
+      stream.WriteValue(PersistValue::string(text));
+    }
+  });
+  EXPECT_EQ(many([&](PersistStream& stream) { stream.WriteStrings(texts); }), oneByOne);
+  const std::array<std::uint32_t, 4> ends = {100, 200, 300, 400};
+  EXPECT_EQ(many([&](PersistStream& stream) { stream.WriteRun({units.data(), ends}); }), oneByOne);
+}
+
+TEST_F(RunsOfValuesTest, ATextThatIsToBeRepeatedWhenTheBufferGrows) {
+  const Text before(3000, u'b');
+  const Text twice = narrowUnits(1500);
+  for (const Text& text : {twice, Text(1500, u'\u0416')}) {
+    expectSameTexts(Text(before).append(text).append(text), {before.size(), text.size(), text.size()});
+  }
 }
 
 TEST_F(RunsOfValuesTest, Ones) {
@@ -194,6 +233,19 @@ TEST_F(RunsOfValuesTest, LongsBetweenOnes) {
             }));
 }
 
+TEST_F(RunsOfValuesTest, ABooleanEndsARunOfOnes) {
+  const PersistValue one = PersistValue::smallInteger(1);
+  const FileBytes bytes = saved([&](PersistStream& stream) {
+    stream.WriteValue(one);
+    stream.WriteValue(PersistValue::ofBoolean(true));
+    stream.WriteValue(one);
+    stream.WriteValue(one);
+    stream.WriteValue(PersistValue::ofBoolean(false));
+  });
+  const FileBytes values = {0x12, 1, 0x1B, 0x12, 2, 0x0B};
+  EXPECT_NE(std::search(bytes.begin(), bytes.end(), values.begin(), values.end()), bytes.end());
+}
+
 TEST_F(RunsOfValuesTest, ObjectsThatAreKept) {
   const auto below = std::make_shared<Written>([](PersistStream& stream) { stream.WriteOnes(1); });
   const std::shared_ptr<Written> nothing;
@@ -207,6 +259,31 @@ TEST_F(RunsOfValuesTest, ObjectsThatAreKept) {
               stream.WriteValue(PersistValue::object(nullptr));
               stream.WriteValue(PersistValue::object(below));
             }));
+}
+
+TEST_F(RunsOfValuesTest, ObjectsThatNobodyElseKeepsLiveUntilTheyAreWritten) {
+  const auto naming = [](int count) {
+    return [count](PersistStream& stream) {
+      for (int i = 0; i < count; ++i) {
+        stream.WriteValue(PersistValue::object(std::make_shared<Written>([i](PersistStream& below) {
+          below.WriteValue(PersistValue::string(decimal(i)));
+          below.WriteValue(PersistValue::object(std::make_shared<Written>([](PersistStream&) {})));
+        })));
+      }
+    };
+  };
+  std::vector<std::shared_ptr<Written>> kept;
+  const FileBytes expected = saved([&](PersistStream& stream) {
+    for (int i = 0; i < 20; ++i) {
+      const auto& last = kept.emplace_back(std::make_shared<Written>([](PersistStream&) {}));
+      const auto& object = kept.emplace_back(std::make_shared<Written>([i, last](PersistStream& below) {
+        below.WriteValue(PersistValue::string(decimal(i)));
+        below.WriteKept(KeptObject(last));
+      }));
+      stream.WriteValue(PersistValue::object(object));
+    }
+  });
+  EXPECT_EQ(saved(naming(20)), expected);
 }
 
 }  // namespace

@@ -95,24 +95,24 @@ TEST(TextListOf, ViewsAddedTogetherAreThoseAddedOneByOne) {
   }
 }
 
-TEST(TextListOf, GivesViewsOfSeveralTextsAtOnce) {
-  TextList none;
-  TextList empty(3);
+TEST(TextListOf, GivesItsFirstTextsAsTheyLie) {
   const auto few = textList({u"a", u"", u"ccc", u"dd"});
   const auto many = textList({u"1", u"22", u"", u"4", u"5", u"66", u"7", u"8", u"999"});
-  for (const TextList* const list : {&none, &empty, few.get(), many.get()}) {
-    for (std::int32_t first = 1; first <= 12; ++first) {
-      for (std::size_t wanted = 0; wanted <= 12; ++wanted) {
-        std::vector<TextView> views(wanted, u"something before");
-        list->GetViews(first, views);
-        for (std::size_t i = 0; i < wanted; ++i) {
-          const std::int32_t position = first + static_cast<std::int32_t>(i);
-          EXPECT_EQ(views[i], position <= list->Count() ? list->Item(position) : TextView())
-              << first << ", " << i << " of " << wanted;
-        }
+  for (const TextList* const list : {few.get(), many.get()}) {
+    for (std::int32_t most = -1; most <= 12; ++most) {
+      const TextRun run = list->GetRun(most);
+      ASSERT_EQ(run.size(), static_cast<std::size_t>(std::clamp(most, 0, list->Count())));
+      for (std::size_t i = 0; i < run.size(); ++i) {
+        EXPECT_EQ(run[i], list->Item(static_cast<std::int32_t>(i) + 1)) << i << " of " << most;
       }
     }
   }
+}
+
+TEST(TextListOf, HasNoRunWhenAllTextsAreEmpty) {
+  EXPECT_EQ(TextList().GetRun(5).size(), 0U);
+  EXPECT_EQ(TextList(3).GetRun(5).size(), 0U);
+  EXPECT_EQ(TextList(9).GetRun(5).size(), 0U);
 }
 
 TEST(TextListOf, KeepsTheImageAliveAsLongAsItLives) {
