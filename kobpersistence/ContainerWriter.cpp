@@ -17,6 +17,7 @@ constexpr std::size_t bufferSize = 256 * 1024;
 static_assert(bufferSize % Checksum::blockSize == 0);
 /// The checksum's blocks begin behind the header, so a full buffer ends with a part of one.
 constexpr std::size_t partOfBlock = (bufferSize - headerSize) % Checksum::blockSize;
+constexpr std::ptrdiff_t summedTogether = 8 * Checksum::blockSize;
 
 }  // namespace
 
@@ -48,8 +49,22 @@ void ContainerWriter::startOver() {
   start();
 }
 
+std::span<Byte> ContainerWriter::room() noexcept {
+  // Each step of the checksum waits for the one before: some at a time are done while the processor is busy
+  // with the next record.
+  if (buffer_ + used_ - unsummed_ >= summedTogether) {
+    sumTo(unsummed_ + summedTogether);
+  }
+  return {buffer_ + used_, bufferSize - used_};
+}
+
 void ContainerWriter::addRecord(const Byte* record, std::size_t size, std::uint64_t units) {
-  put(record, size);
+  if (record == buffer_ + used_) {
+    used_ += size;
+    length_ += size;
+  } else {
+    put(record, size);
+  }
   units_ += units;
   ++records_;
 }

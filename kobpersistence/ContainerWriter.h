@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 
 namespace kob::persistence {
 
@@ -18,6 +19,9 @@ class ContainerWriter {
  public:
   ContainerWriter(WritableFile& file, const ProgIdTable& classes);
 
+  /// Where the next record may be written, so that it need not be copied there. The room ends with the next
+  /// record that is added.
+  std::span<Byte> room() noexcept;
   void addRecord(const Byte* record, std::size_t size, std::uint64_t units);
   /// Forgets all records.
   void startOver();

@@ -5,7 +5,9 @@
 #include <kobpersistence/Units.h>
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
+#include <utility>
 
 namespace kob::persistence {
 
@@ -13,6 +15,9 @@ namespace {
 
 /// Before the values: length, class and version, which are known when the values are.
 constexpr std::size_t mostHead = longestVarint + 1 + longestVarint;
+constexpr Byte leastHead = 1 + 1 + 1;
+/// Less room than this a record is not written to: few records would fit.
+constexpr std::size_t leastRoom = 1024;
 constexpr std::int32_t longestText = std::numeric_limits<std::int32_t>::max();
 /// Units of a run that are narrowed together: few, as they go through a buffer.
 constexpr std::size_t longestRun = 1024;
@@ -32,25 +37,32 @@ Byte* storeTag(Byte* to, Tag tag) noexcept {
 
 RecordWriter::RecordWriter(NamedObjects& objects) : objects_(objects), capacity_(4096) {
   buffer_ = std::make_unique_for_overwrite<Byte[]>(capacity_);
-  start_ = to_ = buffer_.get();
+  start_ = values_ = to_ = buffer_.get();
   limit_ = buffer_.get() + capacity_ - slack;
+  heads_.fill(leastHead);
 }
 
 void RecordWriter::grow(std::size_t size) {
-  const auto used = static_cast<std::size_t>(to_ - buffer_.get());
-  const std::size_t capacity = std::max(2 * capacity_, used + size + slack);
-  auto larger = std::make_unique_for_overwrite<Byte[]>(capacity);
-  std::copy(buffer_.get(), to_, larger.get());
-  ones_ = ones_ == nullptr ? nullptr : larger.get() + (ones_ - buffer_.get());
-  last_.begin = last_.size == 0 ? nullptr : larger.get() + (last_.begin - buffer_.get());
-  buffer_ = std::move(larger);
-  capacity_ = capacity;
-  to_ = buffer_.get() + used;
+  const auto used = static_cast<std::size_t>(to_ - values_);
+  const std::size_t needed = mostHead + used + size + slack;
+  // In a buffer that is large enough the record does not lie yet.
+  std::unique_ptr<Byte[]> before;
+  if (needed > capacity_) {
+    capacity_ = std::max(2 * capacity_, needed);
+    before = std::exchange(buffer_, std::make_unique_for_overwrite<Byte[]>(capacity_));
+  }
+  Byte* const values = buffer_.get() + mostHead;
+  std::copy(values_, to_, values);
+  last_.begin = last_.size == 0 ? nullptr : values + (last_.begin - values_);
+  values_ = values;
+  to_ = values + used;
   limit_ = buffer_.get() + capacity_ - slack;
 }
 
-void RecordWriter::write(IKOBVBPersistStream& object, Byte classNumber) {
-  to_ = buffer_.get() + mostHead;
+void RecordWriter::write(IKOBVBPersistStream& object, Byte classNumber, std::span<Byte> room) {
+  const bool isInRoom = room.size() >= leastRoom;
+  values_ = to_ = isInRoom ? room.data() + heads_[classNumber] : buffer_.get() + mostHead;
+  limit_ = (isInRoom ? room.data() + room.size() : buffer_.get() + capacity_) - slack;
   ones_ = nullptr;
   last_ = {};
   units_ = 0;
@@ -63,20 +75,24 @@ void RecordWriter::write(IKOBVBPersistStream& object, Byte classNumber) {
 }
 
 void RecordWriter::endRecord(Byte classNumber) {
-  // Backwards from the values, each number to where it ends.
-  Byte* start = buffer_.get() + mostHead;
-  const auto prepend = [&start](std::uint32_t number) {
-    start -= varintSize(number);
-    storeVarint(start, number);
-  };
-  prepend(zigzag(version_));
-  *--start = classNumber;
-  const auto size = static_cast<std::size_t>(to_ - start);
+  const std::uint32_t version = zigzag(version_);
+  const std::size_t size = 1 + varintSize(version) + static_cast<std::size_t>(to_ - values_);
   if (size > std::numeric_limits<std::uint32_t>::max()) {
     throw failure({u"One object needs more than 4 GB. Shorten its texts."});
   }
-  prepend(static_cast<std::uint32_t>(size));
-  start_ = start;
+  const std::size_t head = varintSize(static_cast<std::uint32_t>(size)) + 1 + varintSize(version);
+  const Byte expected = heads_[classNumber];
+  if (head != expected) {
+    // In room that was given the record begins where the room does.
+    std::memmove(values_ + head - expected, values_, static_cast<std::size_t>(to_ - values_));
+    values_ += head - expected;
+    to_ += head - expected;
+    heads_[classNumber] = static_cast<Byte>(head);
+  }
+  start_ = values_ - head;
+  Byte* const behindSize = storeVarint(start_, static_cast<std::uint32_t>(size));
+  *behindSize = classNumber;
+  storeVarint(behindSize + 1, version);
 }
 
 template <class Write>
@@ -224,15 +240,15 @@ void RecordWriter::WriteOnes(std::int32_t count) {
 
 void RecordWriter::WriteKept(const KeptObject& object) {
   guarded([&] {
-    reserve(longestValue);
     ones_ = nullptr;
+    reserve(longestValue);
     writeObject(object.get());
   });
 }
 
 void RecordWriter::writeAny(const PersistValue& value) {
-  reserve(longestValue);
   ones_ = nullptr;
+  reserve(longestValue);
   switch (value.type()) {
     case PersistType::String:
       writeText(value.text());

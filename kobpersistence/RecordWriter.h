@@ -2,8 +2,10 @@
 #pragma once
 
 #include <kobpersistence/Bytes.h>
+#include <kobpersistence/Format.h>
 #include <kobtraduction/persistence/PersistStream.h>
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
@@ -28,16 +30,18 @@ class NamedObjects {
   virtual void keep(const PersistRef& object) = 0;
 };
 
-/// The stream that an object writes its record to: a buffer, used for one record after the other.
+/// The stream that an object writes its record to. Records are written one after the other, each into room
+/// that it is given or, when it does not fit there, into a buffer of the writer's own.
 class RecordWriter final : public PersistStream {
  public:
   explicit RecordWriter(NamedObjects& objects);
 
-  /// Lets the object write its record. What went wrong in the service's own part is thrown here, and not
-  /// through the object, which would take it for a failure of its own.
-  void write(IKOBVBPersistStream& object, Byte classNumber);
+  /// Lets the object write its record, at the beginning of `room` if it fits; all of that may be written to.
+  /// What went wrong in the service's own part is thrown here, and not through the object, which would take
+  /// it for a failure of its own.
+  void write(IKOBVBPersistStream& object, Byte classNumber, std::span<Byte> room);
 
-  /// The record written last, complete; it lives until the next one.
+  /// The record written last, complete; in a buffer of the writer's own it lives until the next one.
   const Byte* record() const noexcept { return start_; }
   std::size_t recordSize() const noexcept { return static_cast<std::size_t>(to_ - start_); }
   /// The units of all texts of that record.
@@ -67,6 +71,7 @@ class RecordWriter final : public PersistStream {
       grow(size);
     }
   }
+  /// The record goes on in a buffer of the writer's own that has room for so many bytes more.
   void grow(std::size_t size);
   /// What goes wrong is kept for write().
   template <class Write>
@@ -90,9 +95,13 @@ class RecordWriter final : public PersistStream {
   std::unique_ptr<Byte[]> buffer_;
   std::size_t capacity_;
   Byte* start_;
+  /// Where the values begin, which is behind what stands before them, and where the next one goes.
+  Byte* values_;
   Byte* to_;
-  /// `slack` bytes before the buffer's end.
+  /// `slack` bytes before the end of the room or buffer.
   Byte* limit_;
+  /// How much stood before the values of a class's last record, in bytes: most likely as much as next time.
+  std::array<Byte, mostClasses> heads_;
   /// The number of ones behind the value written last, if that is a run of ones.
   Byte* ones_ = nullptr;
   Repeatable last_;

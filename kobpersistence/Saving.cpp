@@ -81,7 +81,7 @@ class TreeSave final : private NamedObjects {
       }
       level_ = now.level;
       const auto above = static_cast<std::ptrdiff_t>(pending_.size());
-      writer.write(*now.object, classes.of(*now.object));
+      writer.write(*now.object, classes.of(*now.object), file.room());
       file.addRecord(writer.record(), writer.recordSize(), writer.units());
       // The first named is the next.
       std::reverse(pending_.begin() + above, pending_.end());
@@ -120,7 +120,7 @@ class GraphSave final : private NamedObjects {
     indexOf(first);
     for (std::size_t index = 0; index < objects_.size(); ++index) {
       IKOBVBPersistStream& object = *objects_[index];
-      writer.write(object, classes.of(object));
+      writer.write(object, classes.of(object), {});
       graph_.begins.push_back(static_cast<std::uint32_t>(graph_.named.size()));
     }
     order_ = orderOf(graph_);
@@ -128,7 +128,7 @@ class GraphSave final : private NamedObjects {
     for (const std::uint32_t index : order_.objects) {
       IKOBVBPersistStream& object = *objects_[index];
       place_ = graph_.begins[index];
-      writer.write(object, classes.of(object));
+      writer.write(object, classes.of(object), file.room());
       if (place_ != graph_.begins[index + 1]) {
         throw changed();
       }

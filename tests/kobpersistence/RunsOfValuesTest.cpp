@@ -182,6 +182,54 @@ TEST_F(RunsOfValuesTest, ATextThatIsToBeRepeatedWhenTheBufferGrows) {
   }
 }
 
+/// The second record of a file whose first one ends with a text of so many units.
+class RecordBehind : public RunsOfValuesTest {
+ protected:
+  FileBytes recordBehind(std::size_t units) {
+    const FileBytes bytes = saved([&](PersistStream& stream) {
+      stream.WriteValue(PersistValue::string(Text(units, u'a')));
+      stream.WriteKept(KeptObject(object_));
+    });
+    const FileBytes mark(mark_.begin(), mark_.end());
+    constexpr std::ptrdiff_t checksum = 8;
+    constexpr std::size_t most = 10000;
+    const auto from = bytes.end() - static_cast<std::ptrdiff_t>(std::min(bytes.size(), most));
+    return {std::search(from, bytes.end(), mark.begin(), mark.end()), bytes.end() - checksum};
+  }
+
+ private:
+  /// More than the writer has room for at first, of values of every kind.
+  void write(PersistStream& stream) const {
+    stream.WriteValue(PersistValue::string(mark_));
+    for (const Text& text : {narrowUnits(2000), Text(1500, u'\u0416')}) {
+      stream.WriteValue(PersistValue::string(text));
+      stream.WriteOnes(40);
+      stream.WriteValue(PersistValue::string(text));
+      stream.WriteValue(PersistValue::object(std::make_shared<Written>([](PersistStream&) {})));
+      stream.WriteRun({run_.data(), ends_});
+      stream.WriteValue(PersistValue::ofBoolean(true));
+      stream.WriteLongs(numbers_);
+    }
+  }
+
+  const Text mark_ = u"MARK";
+  const Text run_ = narrowUnits(200);
+  const std::array<std::uint32_t, 5> ends_ = {20, 20, 90, 110, 200};
+  const std::array<std::int32_t, 3> numbers_ = {1, -70, 1000000};
+  const std::shared_ptr<Written> object_ = std::make_shared<Written>([this](PersistStream& s) { write(s); });
+};
+
+TEST_F(RecordBehind, IsTheSameWhereverTheWritersRoomEnds) {
+  const FileBytes expected = recordBehind(10);
+  ASSERT_GT(expected.size(), 5000U);
+  // What is written together, and all places that its end can have in the record and shortly before.
+  constexpr std::size_t room = 256 * 1024;
+  for (std::size_t units = room - expected.size() - 100; units < room + 40;
+       units += units < room - 80 ? 41 : 1) {
+    ASSERT_EQ(recordBehind(units), expected) << units;
+  }
+}
+
 TEST_F(RunsOfValuesTest, Ones) {
   const PersistValue one = PersistValue::smallInteger(1);
   for (const int before : {0, 1, 15, 16, 17}) {
