@@ -49,16 +49,16 @@ void ContainerWriter::startOver() {
   start();
 }
 
-std::span<Byte> ContainerWriter::room() noexcept {
+std::span<Byte> ContainerWriter::room() const noexcept {
+  return {buffer_ + used_, bufferSize - used_};
+}
+
+void ContainerWriter::addRecord(const Byte* record, std::size_t size, std::uint64_t units) {
   // Each step of the checksum waits for the one before: some at a time are done while the processor is busy
   // with the next record.
   if (buffer_ + used_ - unsummed_ >= summedTogether) {
     sumTo(unsummed_ + summedTogether);
   }
-  return {buffer_ + used_, bufferSize - used_};
-}
-
-void ContainerWriter::addRecord(const Byte* record, std::size_t size, std::uint64_t units) {
   if (record == buffer_ + used_) {
     used_ += size;
     length_ += size;

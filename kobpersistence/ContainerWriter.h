@@ -21,7 +21,7 @@ class ContainerWriter {
 
   /// Where the next record may be written, so that it need not be copied there. The room ends with the next
   /// record that is added.
-  std::span<Byte> room() noexcept;
+  std::span<Byte> room() const noexcept;
   void addRecord(const Byte* record, std::size_t size, std::uint64_t units);
   /// Forgets all records.
   void startOver();

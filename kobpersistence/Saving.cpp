@@ -103,7 +103,7 @@ class TreeSave final : private NamedObjects {
   void keep(const PersistRef& object) override { kept_.push_back(object); }
 
   ObjectSet met_;
-  /// So that no object is taken for another one that had its address before, either.
+  /// Until the end, also when written: no object is to be taken for another one that had its address before.
   std::vector<PersistRef> kept_;
   bool isEachNew_ = true;
   /// Named and not written yet, the next one on top.
@@ -169,7 +169,7 @@ class GraphSave final : private NamedObjects {
   }
 
   std::vector<IKOBVBPersistStream*> objects_;
-  /// So that no object is taken for another one that had its address before, either.
+  /// For the same reason as those of a tree.
   std::vector<PersistRef> kept_;
   std::unordered_map<const IKOBVBPersistStream*, std::uint32_t> indices_;
   NamingGraph graph_;

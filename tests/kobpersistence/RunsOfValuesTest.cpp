@@ -153,13 +153,13 @@ TEST_F(RunsOfValuesTest, TextsThatLieApart) {
       {TextView(first).substr(10), TextView(first).substr(0, 10), second, TextView(second).substr(0, 5)});
 }
 
-TEST_F(RunsOfValuesTest, MoreThanTheFirstBufferHolds) {
+TEST_F(RunsOfValuesTest, MoreThanTheWriterHasRoomFor) {
   const Text units = narrowUnits(400);
   const std::array<TextView, 4> texts = {TextView(units).substr(0, 100), TextView(units).substr(100, 100),
                                          TextView(units).substr(200, 100), TextView(units).substr(300, 100)};
   const auto many = [&](auto writeOnce) {
     return saved([&](PersistStream& stream) {
-      for (int i = 0; i < 40; ++i) {
+      for (int i = 0; i < 2000; ++i) {
         writeOnce(stream);
       }
     });
@@ -174,14 +174,6 @@ TEST_F(RunsOfValuesTest, MoreThanTheFirstBufferHolds) {
   EXPECT_EQ(many([&](PersistStream& stream) { stream.WriteRun({units.data(), ends}); }), oneByOne);
 }
 
-TEST_F(RunsOfValuesTest, ATextThatIsToBeRepeatedWhenTheBufferGrows) {
-  const Text before(3000, u'b');
-  const Text twice = narrowUnits(1500);
-  for (const Text& text : {twice, Text(1500, u'\u0416')}) {
-    expectSameTexts(Text(before).append(text).append(text), {before.size(), text.size(), text.size()});
-  }
-}
-
 /// The second record of a file whose first one ends with a text of so many units.
 class RecordBehind : public RunsOfValuesTest {
  protected:
@@ -192,16 +184,38 @@ class RecordBehind : public RunsOfValuesTest {
     });
     const FileBytes mark(mark_.begin(), mark_.end());
     constexpr std::ptrdiff_t checksum = 8;
-    constexpr std::size_t most = 10000;
+    constexpr std::size_t most = 20000;
     const auto from = bytes.end() - static_cast<std::ptrdiff_t>(std::min(bytes.size(), most));
     return {std::search(from, bytes.end(), mark.begin(), mark.end()), bytes.end() - checksum};
   }
 
  private:
-  /// More than the writer has room for at first, of values of every kind.
+  /// Short texts, as less room than they need is not used; values of every kind, and then more of them than
+  /// the writer's own buffer holds.
   void write(PersistStream& stream) const {
     stream.WriteValue(PersistValue::string(mark_));
-    for (const Text& text : {narrowUnits(2000), Text(1500, u'\u0416')}) {
+    for (std::size_t i = 0; i < 12; ++i) {
+      stream.WriteValue(PersistValue::string(narrowUnits(100 + i)));
+    }
+    for (int i = 0; i < 10; ++i) {
+      stream.WriteValue(PersistValue::ofBoolean(i % 2 == 0));
+      stream.WriteOnes(i == 5 ? 256 : 3);
+      stream.WriteLongs(numbers_);
+      const TextView name = TextView(run_).substr(0, 127);
+      stream.WriteStrings(std::array{name, name});
+    }
+    for (int i = 0; i < 70; ++i) {
+      stream.WriteValue(PersistValue::ofBoolean(i % 2 == 0));
+    }
+    for (int i = 0; i < 20; ++i) {
+      stream.WriteLongs(numbers_);
+    }
+    for (int i = 0; i < 5; ++i) {
+      stream.WriteOnes(256);
+      stream.WriteValue(PersistValue::ofBoolean(true));
+    }
+    for (const Text& text :
+         {narrowUnits(30), Text(20, u'\u0416'), narrowUnits(3000), Text(1500, u'\u0416')}) {
       stream.WriteValue(PersistValue::string(text));
       stream.WriteOnes(40);
       stream.WriteValue(PersistValue::string(text));
@@ -221,12 +235,14 @@ class RecordBehind : public RunsOfValuesTest {
 
 TEST_F(RecordBehind, IsTheSameWhereverTheWritersRoomEnds) {
   const FileBytes expected = recordBehind(10);
-  ASSERT_GT(expected.size(), 5000U);
-  // What is written together, and all places that its end can have in the record and shortly before.
+  // What is written together, and of the places that its end can have all in the short values, the others now
+  // and then, and all in which next to nothing of it is left.
   constexpr std::size_t room = 256 * 1024;
-  for (std::size_t units = room - expected.size() - 100; units < room + 40;
-       units += units < room - 80 ? 41 : 1) {
+  ASSERT_GT(expected.size(), 6000U);
+  for (std::size_t units = room - expected.size(); units < room + 40;) {
     ASSERT_EQ(recordBehind(units), expected) << units;
+    const bool isEach = (units > room - 4000 && units < room - 1000) || units > room - 80;
+    units += isEach ? 1 : 43;
   }
 }
 

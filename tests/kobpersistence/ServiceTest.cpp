@@ -14,8 +14,12 @@ namespace kob::test {
 namespace fs = std::filesystem;
 
 FileBytes bytesOf(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  std::error_code missing;
+  const std::uintmax_t size = fs::file_size(file, missing);
+  FileBytes bytes(missing ? 0 : size);
+  std::ifstream(file, std::ios::binary)
+      .read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+  return bytes;
 }
 
 void putBytes(const fs::path& file, const FileBytes& bytes) {
