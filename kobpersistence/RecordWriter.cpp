@@ -84,9 +84,10 @@ void RecordWriter::endRecord(Byte classNumber) {
   const Byte expected = heads_[classNumber];
   if (head != expected) {
     // In room that was given the record begins where the room does.
-    std::memmove(values_ + head - expected, values_, static_cast<std::size_t>(to_ - values_));
-    values_ += head - expected;
-    to_ += head - expected;
+    const std::ptrdiff_t step = static_cast<std::ptrdiff_t>(head) - expected;
+    std::memmove(values_ + step, values_, static_cast<std::size_t>(to_ - values_));
+    values_ += step;
+    to_ += step;
     heads_[classNumber] = static_cast<Byte>(head);
   }
   start_ = values_ - head;

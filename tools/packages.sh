@@ -6,7 +6,7 @@ declare -A packages=(
            qt6-l10n-tools libcli11-dev libpugixml-dev"
   [screen]="xvfb xauth fonts-dejavu-core"
   [test]="libgtest-dev libgmock-dev librapidcheck-dev libicu-dev pkg-config python3 git unicode-data xdotool x11-utils
-          groff-base clang-14"
+          groff-base clang-14 libclang-rt-14-dev"
   [lint]="clang-14 clang-format-14 clang-tidy-14 shellcheck python3 git unicode-data"
   [fuzz]="clang-14 libclang-rt-14-dev llvm-14"
   [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 googletest fp-compiler
