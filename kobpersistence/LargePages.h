@@ -9,8 +9,9 @@
 
 namespace kob::persistence {
 
-/// Those of this system. Defined per system.
-LargePages largePages() noexcept;
+/// Those of this system for what needs so many bytes in all; very much may come in small ones. Defined per
+/// system.
+LargePages largePages(std::size_t all) noexcept;
 
 /// Gives back what makeLarge() made.
 struct FreeLarge {

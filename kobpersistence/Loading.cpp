@@ -39,7 +39,9 @@ void fetchAhead(const char16_t* from, const char16_t* end) noexcept {
 class Loading final : private FilledObjects {
  public:
   explicit Loading(const Container& container)
-      : container_(container), first_(*this, container), pool_(container.records(), largePages()) {}
+      : container_(container),
+        first_(*this, container),
+        pool_(container.records(), largePages(container.size())) {}
 
   void into(IKOBVBPersistStream& object) {
     const std::int32_t languagesBefore = Global_Util::NbLangues();

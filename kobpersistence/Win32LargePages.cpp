@@ -4,7 +4,7 @@
 namespace kob::persistence {
 
 // They need a right that few users have.
-LargePages largePages() noexcept {
+LargePages largePages(std::size_t /*all*/) noexcept {
   return {};
 }
 
