@@ -81,7 +81,7 @@ class Files {
     saveLists();
     require(forms.document()->save_file(path("model.xml").toUtf8().constData(), "", pugi::format_raw),
             "the XML file cannot be written");
-    writeBytes("flat", flat_.constData(), flat_.size(), false);
+    writeFlat();
     QFile saved(path("model.trad"));
     require(saved.open(QIODevice::ReadOnly), "the model's file cannot be read");
     bytes_ = saved.readAll();
@@ -151,6 +151,8 @@ class Files {
     stream << lists_;
     require(file.commit(), "the lists cannot be saved");
   }
+  /// The bytes that are read from it.
+  void writeFlat() const { writeBytes("flat", flat_.constData(), flat_.size(), false); }
   /// The bytes of the model's file, which are there already.
   void writeModelBytes(bool flush) const { writeBytes("bytes", bytes_.constData(), bytes_.size(), flush); }
   void saveBytesSafely() const {
@@ -218,12 +220,19 @@ void contestOfLoading(Files& files, const SavedForms& forms, const std::function
 void contestOfSaving(Files& files, const SavedForms& forms, const std::function<void(Contest&)>& run) {
   files.beginSaving();
   Contest contest("Save, no flush", std::to_string(forms.entries()));
-  contest.add("Save, loaded before", forms.texts(), [&](int) { files.saveModelUnflushed(); });
-  contest.add("Save, just made", forms.texts(), [&](int) { files.saveMadeUnflushed(); });
-  contest.add("write", forms.texts(), [&](int) { files.writeModelBytes(false); });
-  contest.add("QDataStream of lists", forms.texts(), [&](int) { files.saveLists(); });
-  contest.expect({"Save, loaded before", "write", 4, 2.5});
-  contest.expect({"Save, just made", "write", 4, 2.5});
+  // A file's memory is part of what is timed, and is had at once only where it was given back just before. So
+  // each is timed right after it has done the same once.
+  const auto add = [&](const char* name, auto save) {
+    const auto pass = [save](int) { save(); };
+    contest.add(name, forms.texts(), pass, pass);
+  };
+  add("Save, loaded before", [&] { files.saveModelUnflushed(); });
+  add("Save, just made", [&] { files.saveMadeUnflushed(); });
+  add("write, 64 B a text", [&] { files.writeFlat(); });
+  add("write, the model's bytes", [&] { files.writeModelBytes(false); });
+  add("QDataStream of lists", [&] { files.saveLists(); });
+  contest.expect({"Save, loaded before", "write, 64 B a text", 4, 2.5});
+  contest.expect({"Save, just made", "write, 64 B a text", 4, 2.5});
   run(contest);
   files.forget();
 }
