@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The KOBTraduction authors
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 
 namespace kob {
@@ -26,7 +27,28 @@ inline void fetchBytes(const void* address, std::size_t size) noexcept {
 #endif
 }
 
-/// The same for an object.
+/// The same for no more than `most` bytes. Nothing is decided by the size: where it changes from call to
+/// call, the processor would guess wrong.
+template <std::size_t most>
+void fetchUpTo(const void* address, std::size_t size) noexcept {
+#if defined(__GNUC__)
+  asm volatile("" : : "r"(address));
+  if (address == nullptr || size == 0) {
+    return;
+  }
+  constexpr std::size_t cacheLine = 64;
+  const auto* const bytes = static_cast<const char*>(address);
+  for (std::size_t offset = 0; offset < most; offset += cacheLine) {
+    __builtin_prefetch(bytes + std::min(offset, size - 1));
+  }
+  __builtin_prefetch(bytes + std::min(most, size) - 1);
+#else
+  static_cast<void>(address);
+  static_cast<void>(size);
+#endif
+}
+
+/// fetchBytes() for an object.
 template <class Object>
 void fetch(const Object* object) noexcept {
   fetchBytes(object, sizeof(Object));

@@ -53,6 +53,8 @@ class KOB_EXPORT KOBTraductionObj final : public IKOBVBPersistStream,
 
   // Internal: for the other classes and rooms of the component.
 
+  /// Where the list of texts lies unless a host assigned one, for who wants to fetch it before it is read.
+  const HeldList<TextList>& heldTexts() const noexcept { return colTraduction_; }
   /// Where the characters of the texts lie, for who wants to fetch them before they are read; null for none.
   const char16_t* textUnits() const noexcept {
     const TextList* const list = colTraduction_.get();

@@ -24,7 +24,7 @@ constexpr std::size_t textsAhead = 12;
 /// The same for the members of the runs that are put in order.
 constexpr std::size_t runsAhead = 32;
 
-/// What the reference text and all texts of an entry need, in bytes.
+/// What the reference text of an entry needs, and at most its texts together, in bytes.
 constexpr std::size_t usualReference = 64;
 constexpr std::size_t usualTexts = 320;
 /// What an allocator keeps of a run just before it, and reads when the run is given back, in bytes.
@@ -32,8 +32,11 @@ constexpr std::size_t allocatorsPart = 16;
 
 /// All texts of an entry that may be given another run.
 void fetchRun(const KOBTraductionObj& entry) noexcept {
-  if (const char16_t* const units = entry.textUnits()) {
-    fetchBytes(reinterpret_cast<const char*>(units) - allocatorsPart, usualTexts);
+  const TextList* const list = entry.heldTexts().get();
+  const TextRun run = list != nullptr ? list->GetRun(list->Count()) : TextRun();
+  if (run.size() > 0) {
+    fetchUpTo<usualTexts>(reinterpret_cast<const char*>(run.units) - allocatorsPart,
+                          run.ends.back() * sizeof(char16_t) + allocatorsPart);
   }
 }
 
@@ -46,7 +49,7 @@ bool isSameText(TextView a, TextView b) noexcept {
 
 void SameTexts::add(KOBTraductionObj& entry) {
   entries_.push_back(&entry);
-  fetch(&entry);
+  fetch(&entry.heldTexts());
   const std::size_t count = entries_.size();
   if (count > entriesAhead - textsAhead) {
     fetchBytes(entries_[count - 1 - (entriesAhead - textsAhead)]->textUnits(), usualReference);
@@ -186,7 +189,7 @@ std::size_t SameTexts::endOfSame(std::size_t start, std::size_t end) const {
 void SameTexts::fetchBehind(std::size_t end) noexcept {
   for (const std::size_t last = std::min(end + entriesAhead, ordered_.size()); fetchedEntries_ < last;
        ++fetchedEntries_) {
-    fetch(ordered_[fetchedEntries_]);
+    fetch(&ordered_[fetchedEntries_]->heldTexts());
   }
   for (const std::size_t last = std::min(end + textsAhead, ordered_.size()); fetchedTexts_ < last;
        ++fetchedTexts_) {
