@@ -2,6 +2,8 @@
 #include "MemoryStorage.h"
 #include "ServiceTest.h"
 
+#include <string>
+
 namespace kob::test {
 namespace {
 
@@ -56,6 +58,36 @@ TEST_F(RoundTripTest, AFileOfAnyLengthAroundWhatIsWrittenTogetherComesBack) {
     KOBModeleTraduction loaded;
     ASSERT_TRUE(loaded.Load(u"m")) << size << ": " << lastNotice();
     ASSERT_TRUE(loaded.GetTraduction(u"m", 1, u"") == text) << size;
+  }
+}
+
+// More than is loaded in large pages.
+TEST_F(RoundTripTest, AVeryLargeFileComesBack) {
+  constexpr std::int32_t messages = 72;
+  constexpr std::size_t units = 1'000'000;
+  const MemoryService service;
+  const auto textOf = [](std::int32_t message) {
+    Text text(units, u'a');
+    text[static_cast<std::size_t>(message)] = u'b';
+    return text;
+  };
+  const auto nameOf = [](std::int32_t message) {
+    const std::string digits = std::to_string(message);
+    return Text(digits.begin(), digits.end());
+  };
+  {
+    KOBModeleTraduction saved;
+    for (std::int32_t message = 0; message < messages; ++message) {
+      saved.Racine()->AddMessage(nameOf(message), textOf(message));
+    }
+    ASSERT_TRUE(saved.Save(u"m")) << lastNotice();
+  }
+  ASSERT_GT(service.storage.files.at(u"m").size(), std::size_t{64} << 20);
+  KOBModeleTraduction loaded;
+  ASSERT_TRUE(loaded.Load(u"m")) << lastNotice();
+  ASSERT_EQ(loaded.Racine()->ColCell()->Count(), messages);
+  for (std::int32_t message = 0; message < messages; ++message) {
+    ASSERT_TRUE(loaded.GetTraduction(nameOf(message), 1, u"") == textOf(message)) << message;
   }
 }
 
