@@ -39,6 +39,9 @@ lost="echo 'wine client error:0: recvmsg: Connection reset by peer' >&2; exit 1"
 run "[ \$(wc -l <'$folder/begun') -gt 1 ] || { $lost; }"
 expect "the server is lost before the program begins" "$status/$errors/$begun" "0//2"
 
+run "[ \$(wc -l <'$folder/begun') -gt 1 ] || { echo 'wine client error:0: write: Broken pipe' >&2; exit 1; }"
+expect "the server is lost in another way" "$status/$errors/$begun" "0//2"
+
 run "$lost"
 expect "the server is lost each time" "$status/$begun" "1/3"
 expect "the server is lost each time: that is told" "$errors" \

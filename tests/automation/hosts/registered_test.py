@@ -101,7 +101,8 @@ def main():
     cases = Cases("registered")
 
     def register(*options):
-        equal(0, wine("regsvr32.exe", *options, "/s", library).returncode, "status")
+        done = wine("regsvr32.exe", *options, "/s", library)
+        equal((0, ""), (done.returncode, done.stderr), "status and errors")
 
     def is_gone():
         script = windows_path(HERE / "cscript/cells.vbs")
