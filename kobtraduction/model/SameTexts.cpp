@@ -24,6 +24,15 @@ constexpr std::size_t textsAhead = 12;
 /// The same for the members of the runs that are put in order.
 constexpr std::size_t runsAhead = 32;
 
+/// The entries of a group lie far apart, each in a page of its own and its texts in another one. Finding the
+/// first address of a page takes as long as a group is worked on, and the processor does little else
+/// meanwhile, but finds several at a time. So a row of this many entries is found at once; the rest of their
+/// texts follows one by one, as nobody waits for that.
+constexpr std::size_t foundTogether = 128;
+/// How far behind a group entries are found, and their texts fetched whole.
+constexpr std::size_t foundAhead = 12;
+constexpr std::size_t fetchedAhead = 6;
+
 /// What the reference text of an entry needs, and at most its texts together, in bytes.
 constexpr std::size_t usualReference = 64;
 constexpr std::size_t usualTexts = 320;
@@ -187,12 +196,18 @@ std::size_t SameTexts::endOfSame(std::size_t start, std::size_t end) const {
 }
 
 void SameTexts::fetchBehind(std::size_t end) noexcept {
-  for (const std::size_t last = std::min(end + entriesAhead, ordered_.size()); fetchedEntries_ < last;
-       ++fetchedEntries_) {
-    fetch(&ordered_[fetchedEntries_]->heldTexts());
+  const auto upTo = [this](std::size_t number) { return std::min(number, ordered_.size()); };
+  while (foundTexts_ < upTo(end + foundAhead)) {
+    const std::size_t first = foundTexts_;
+    // Those of the row after this one, too: where texts are is read from their entry.
+    for (; foundEntries_ < upTo(first + 2 * foundTogether); ++foundEntries_) {
+      fetch(&ordered_[foundEntries_]->heldTexts());
+    }
+    for (; foundTexts_ < upTo(first + foundTogether); ++foundTexts_) {
+      fetchBytes(ordered_[foundTexts_]->textUnits(), sizeof(char16_t));
+    }
   }
-  for (const std::size_t last = std::min(end + textsAhead, ordered_.size()); fetchedTexts_ < last;
-       ++fetchedTexts_) {
+  for (; fetchedTexts_ < upTo(end + fetchedAhead); ++fetchedTexts_) {
     fetchRun(*ordered_[fetchedTexts_]);
   }
 }

@@ -88,7 +88,8 @@ class SameTexts {
   void sortByText(std::size_t start, std::size_t end);
   /// Where, at `end` at the latest, entries follow whose text is another one than that at `start`.
   std::size_t endOfSame(std::size_t start, std::size_t end) const;
-  /// Fetches the entries some places behind `end`, and the texts of those that are not as far behind.
+  /// Fetches what lies some places behind `end`: where texts begin, and the texts of those that are not as
+  /// far.
   void fetchBehind(std::size_t end) noexcept;
 
   std::int32_t last_;
@@ -99,10 +100,11 @@ class SameTexts {
   /// numbers.
   std::vector<Member> members_;
   /// The entries that are completed, those of one hash side by side, and where each of these runs ends; how
-  /// far the entries and their texts are fetched.
+  /// many entries are found in memory, of how many the texts are, and of how many these are fetched.
   std::vector<KOBTraductionObj*> ordered_;
   std::vector<std::uint32_t> ends_;
-  std::size_t fetchedEntries_ = 0;
+  std::size_t foundEntries_ = 0;
+  std::size_t foundTexts_ = 0;
   std::size_t fetchedTexts_ = 0;
   /// By an entry's number: where its group starts among the members. A group may be several of one hash until
   /// their texts are compared, which is done when they are asked for: nearly always it is one.
