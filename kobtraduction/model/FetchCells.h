@@ -16,26 +16,36 @@ namespace kob {
 
 inline constexpr int cellsFetchedTogether = 16;
 
-/// Fetches the cells of a list that come next into `cells`, and returns how many: 0 at the end. Internal.
-inline int fetchNext(CellList::const_iterator next, const CellList& list,
-                     const KOBCellTraduction* (&cells)[cellsFetchedTogether]) noexcept {
+/// Puts the cells of a list that come next into `cells`, calls fetchCell(cell) for each, null for nothing,
+/// and returns how many: 0 at the end. Internal.
+template <class FetchCell>
+int fetchNext(CellList::const_iterator next, const CellList& list,
+              const KOBCellTraduction* (&cells)[cellsFetchedTogether], FetchCell&& fetchCell) noexcept {
   const CellList::const_iterator end = list.end();
   int count = 0;
   for (; count < cellsFetchedTogether && next != end; ++next) {
     cells[count] = (*next).get();
-    fetch(cells[count++]);
+    fetchCell(cells[count++]);
   }
   return count;
 }
 
-/// The same, and of each cell its name and its first entries, a caption and a tool tip; then calls
-/// fetchTexts(entry) for these. Internal.
+/// The part of a cell that leads to its children and its entries, which is all but the names. Internal.
+inline void fetchLists(const KOBCellTraduction* cell) noexcept {
+  if (cell != nullptr) {
+    const auto* const lists = reinterpret_cast<const char*>(&cell->ColCell());
+    fetchBytes(lists, static_cast<std::size_t>(reinterpret_cast<const char*>(cell + 1) - lists));
+  }
+}
+
+/// Fetches the cells of a list that come next, and of each its name and its first entries, a caption and a
+/// tool tip; then calls fetchTexts(entry) for these. Internal.
 template <class FetchTexts>
 int fetchCells(CellList::const_iterator next, const CellList& list, FetchTexts&& fetchTexts) noexcept {
   constexpr std::int32_t entriesFetched = 2;
   constexpr std::size_t usualName = 32;
   const KOBCellTraduction* cells[cellsFetchedTogether];
-  const int count = fetchNext(next, list, cells);
+  const int count = fetchNext(next, list, cells, [](const KOBCellTraduction* cell) { fetch(cell); });
   const std::shared_ptr<KOBTraductionObj>* entries[cellsFetchedTogether * entriesFetched];
   int found = 0;
   for (int i = 0; i < count; ++i) {
@@ -69,11 +79,12 @@ inline int fetchCells(CellList::const_iterator next, const CellList& list) noexc
                     [](const KOBTraductionObj& entry) { fetchBytes(entry.textUnits(), sizeof(char16_t)); });
 }
 
-/// The same, and of each node where its first children are. Internal.
+/// Fetches the cells that come next but for their names, and of each node where its first children are;
+/// returns how many. Internal.
 inline int fetchNodes(CellList::const_iterator next, const CellList& list) noexcept {
   constexpr std::size_t firstItems = 160;
   const KOBCellTraduction* cells[cellsFetchedTogether];
-  const int count = fetchNext(next, list, cells);
+  const int count = fetchNext(next, list, cells, fetchLists);
   const auto eachList = [&](auto&& fetchStep) {
     for (int i = 0; i < count; ++i) {
       if (cells[i] != nullptr && cells[i]->ColCell() != nullptr) {
@@ -91,7 +102,7 @@ inline int fetchNodes(CellList::const_iterator next, const CellList& list) noexc
 inline void fetchFirstChildren(const KOBCellTraduction* cell) noexcept {
   if (cell != nullptr && cell->ColCell() != nullptr) {
     const KOBCellTraduction* cells[cellsFetchedTogether];
-    fetchNext(cell->ColCell()->begin(), *cell->ColCell(), cells);
+    fetchNext(cell->ColCell()->begin(), *cell->ColCell(), cells, fetchLists);
   }
 }
 
