@@ -56,6 +56,10 @@ class CellWalk {
     CellList::const_iterator end;
     /// How many children are fetched and not walked yet.
     int fetched = 0;
+    /// The cells below the sibling of `cell` that comes next. One of them is fetched with each child that is
+    /// walked: the processor waits for many at once, but hardly for one now and then.
+    CellList::const_iterator beside;
+    CellList::const_iterator besideEnd;
   };
 
   void enter(KOBCellTraduction& cell) {
@@ -65,11 +69,11 @@ class CellWalk {
     if (cell.ColCell() == nullptr) {
       throw Failure(FailureKind::ObjectNotSet);
     }
-    if (ahead_ == Ahead::Cells && !open_.empty() && open_.back().fetched > 0) {
-      // By the time that the walk is through with this cell it reads those below the next one.
-      fetchFirstChildren((*open_.back().next).get());
-    }
-    open_.push_back({&cell, cell.ColCell(), cell.ColCell()->begin(), cell.ColCell()->end(), 0});
+    const CellList& children = *cell.ColCell();
+    const CellList* const beside = childrenBeside();
+    open_.push_back({&cell, cell.ColCell(), children.begin(), children.end(), 0,
+                     beside != nullptr ? beside->begin() : children.end(),
+                     beside != nullptr ? beside->end() : children.end()});
     cell.isWalked_ = true;
   }
 
@@ -84,6 +88,7 @@ class CellWalk {
       open_.back().fetched = fetchAhead(open_.back());
     }
     --open_.back().fetched;
+    fetchBeside(open_.back());
     KOBCellTraduction* const cell = (*open_.back().next).get();
     ++open_.back().next;
     if (cell == nullptr) {
@@ -95,6 +100,22 @@ class CellWalk {
   int fetchAhead(const Level& level) const noexcept {
     return ahead_ == Ahead::Cells ? fetchNodes(level.next, *level.children)
                                   : fetchCells(level.next, *level.children);
+  }
+
+  /// The children of the cell that comes after the one which is entered, where they are known; else null.
+  const CellList* childrenBeside() const noexcept {
+    if (ahead_ != Ahead::Cells || open_.empty() || open_.back().fetched == 0) {
+      return nullptr;
+    }
+    const KOBCellTraduction* const sibling = (*open_.back().next).get();
+    return sibling != nullptr ? sibling->ColCell().get() : nullptr;
+  }
+
+  static void fetchBeside(Level& level) noexcept {
+    if (level.beside != level.besideEnd) {
+      fetchLists((*level.beside).get());
+      ++level.beside;
+    }
   }
 
   void leave() noexcept {

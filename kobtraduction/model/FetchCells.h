@@ -98,12 +98,4 @@ inline int fetchNodes(CellList::const_iterator next, const CellList& list) noexc
   return count;
 }
 
-/// The first cells below one for which that was done. Internal.
-inline void fetchFirstChildren(const KOBCellTraduction* cell) noexcept {
-  if (cell != nullptr && cell->ColCell() != nullptr) {
-    const KOBCellTraduction* cells[cellsFetchedTogether];
-    fetchNext(cell->ColCell()->begin(), *cell->ColCell(), cells, fetchLists);
-  }
-}
-
 }  // namespace kob
