@@ -330,6 +330,44 @@ TEST_F(CompletingModels, EntriesThatLieFarApartBelowManyNodesCompleteEachOther) 
   EXPECT_EQ(texts(cells.back())[1], u"in 39");
 }
 
+TEST_F(CompletingModels, EntriesBelowNodesOfAnySizeCompleteEachOther) {
+  std::vector<CellRef> cells;
+  const std::vector<int> sizes{3, 0, 40, 1, 0, 0, 17, 200, 2};
+  for (std::size_t node = 0; node < sizes.size(); ++node) {
+    const CellRef parent = model.Racine()->AddNoeuds(u"n" + decimal(static_cast<int>(node)));
+    for (int i = 0; i < sizes[node]; ++i) {
+      cells.push_back(message(parent, u"m", {u"a", u"", u""}));
+    }
+  }
+  cells.push_back(add({u"a", u"2", u"3"}));
+  complete();
+  for (const CellRef& cell : cells) {
+    EXPECT_EQ(texts(cell), (Texts{u"a", u"2", u"3"}));
+  }
+}
+
+// What comes after a node is fetched while the walk is below it.
+
+TEST_F(CompletingModels, ANodeWithoutAListFailsWhenTheNodesBeforeItAreRead) {
+  const CellRef before = model.Racine()->AddNoeuds(u"before");
+  const CellRef first = message(before, u"m", {u"a", u"", u""});
+  message(before, u"m", {u"a", u"2", u""});
+  model.Racine()->AddNoeuds(u"damaged")->setColCell(nullptr);
+  EXPECT_EQ(complete(), FailureKind::ObjectNotSet);
+  EXPECT_EQ(texts(first), (Texts{u"a", u"2", u""}));
+}
+
+TEST_F(CompletingModels, ACellThatIsNothingFailsWhenTheNodesBeforeItAreRead) {
+  const CellRef before = model.Racine()->AddNoeuds(u"before");
+  const CellRef first = message(before, u"m", {u"a", u"", u""});
+  message(before, u"m", {u"a", u"2", u""});
+  const CellRef damaged = model.Racine()->AddNoeuds(u"damaged");
+  damaged->ColCell()->Add(nullptr);
+  model.Racine()->ColCell()->Add(nullptr);
+  EXPECT_EQ(complete(), FailureKind::ObjectNotSet);
+  EXPECT_EQ(texts(first), (Texts{u"a", u"2", u""}));
+}
+
 TEST_F(CompletingModels, ManyEntriesOfOneTextAreCompletedInTime) {
   CellRef last;
   for (int i = 0; i < 100000; ++i) {
